@@ -1,0 +1,76 @@
+#include "job/desktop_services.h"
+
+#include "job/file_filter.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace torvane {
+
+namespace {
+
+std::optional<QString> RunFileDialog(QFileDialog::AcceptMode mode, const QString& filter,
+                                     int filterIndex) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(mode);
+    // A typed name is taken as it stands: no existence test, no overwrite prompt.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+    const QStringList filters = QtNameFilters(filter);
+    dialog.setNameFilters(filters);
+    if (filterIndex >= 1 && filterIndex <= filters.size())
+        dialog.selectNameFilter(filters[filterIndex - 1]);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+}  // namespace
+
+QString DisplayText(const QString& text) {
+    QString shown = text;
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return shown;
+}
+
+int QtMessageBoxes::show(const MessageBoxRequest& request) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(request.title.isEmpty() ? QStringLiteral("Torvane") : request.title);
+    box.setText(DisplayText(request.text));
+    switch (request.icon) {
+        case MessageBoxRequest::Icon::None: box.setIcon(QMessageBox::NoIcon); break;
+        case MessageBoxRequest::Icon::Information: box.setIcon(QMessageBox::Information); break;
+        case MessageBoxRequest::Icon::Question: box.setIcon(QMessageBox::Question); break;
+    }
+    if (request.buttons == MessageBoxRequest::Buttons::Ok) {
+        box.setStandardButtons(QMessageBox::Ok);
+        box.exec();
+        return vbOK;
+    }
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(request.defaultAnswer == vbYes ? QMessageBox::Yes : QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes ? vbYes : vbNo;
+}
+
+std::optional<QString> QtFileDialogs::openFileName(const QString& filter, int filterIndex) {
+    return RunFileDialog(QFileDialog::AcceptOpen, filter, filterIndex);
+}
+
+std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int filterIndex) {
+    return RunFileDialog(QFileDialog::AcceptSave, filter, filterIndex);
+}
+
+void QtDesktop::openInViewer(const QString& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void QtDesktop::openUrl(const QString& url) {
+    QDesktopServices::openUrl(QUrl(url));
+}
+
+}  // namespace torvane

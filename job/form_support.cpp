@@ -1,0 +1,29 @@
+#include "job/form_support.h"
+
+#include "job/services.h"
+
+#include <QKeySequence>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace torvane {
+
+// The file type of the tool's own is the second filter entry, so dialogs open on it.
+constexpr int kToolFilterIndex = 2;
+
+void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target) {
+    const std::optional<QString> name = kind == BrowseKind::Open
+                                            ? files.openFileName(filter, kToolFilterIndex)
+                                            : files.saveFileName(filter, kToolFilterIndex);
+    if (name) target.setText(*name);
+}
+
+void MakeCancelButton(QWidget& form, QPushButton& cancel) {
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &form);
+    QObject::connect(escape, &QShortcut::activated, &cancel, [&cancel] {
+        if (cancel.isEnabled()) cancel.click();
+    });
+}
+
+}  // namespace torvane

@@ -1,0 +1,34 @@
+#include "job/job_paths.h"
+
+namespace torvane {
+
+OutputSplit SplitOutputPath(const QString& path, QChar sep) {
+    OutputSplit split;
+    const int index = path.lastIndexOf(sep);
+    if (index < 0) {
+        split.fileName = path;
+        return split;
+    }
+    split.output_dir = path.left(index + 1);
+    split.output_name_pos = index + 1;
+    split.fileName = path.mid(index + 1);
+    return split;
+}
+
+QString ToolFolder(const QString& appPath, const QString& folderWord, QChar sep) {
+    QString folder = appPath;
+    if (!folder.endsWith(sep)) folder += sep;
+    return folder + folderWord + sep;
+}
+
+QString JoinScriptLines(const QStringList& lines) {
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+QString RuleLine(const QString& bannerLine) {
+    const QString echo = QStringLiteral("echo ");
+    const int width = bannerLine.startsWith(echo) ? bannerLine.size() - echo.size() : 0;
+    return echo + QString(width, QLatin1Char('='));
+}
+
+}  // namespace torvane

@@ -1,0 +1,35 @@
+#pragma once
+// The path work every Go handler shares. The separator is the platform's: '\\' on
+// Windows, '/' here; it is a parameter so that both can be tested.
+
+#include <QChar>
+#include <QString>
+#include <QStringList>
+
+namespace torvane {
+
+#ifdef Q_OS_WIN
+constexpr char kPathSeparator = '\\';
+#else
+constexpr char kPathSeparator = '/';
+#endif
+
+// The split of an output path at its last separator.
+struct OutputSplit {
+    QString output_dir;       // up to and including the last separator; empty if none
+    int output_name_pos = 0;  // 1-based position of that separator; 0 if none
+    QString fileName;         // what follows it
+};
+OutputSplit SplitOutputPath(const QString& path, QChar sep);
+
+// The application path, a separator if it lacks one, then the folder word and a
+// separator: ToolFolder("/opt/app", "VCDImager", '/') == "/opt/app/VCDImager/".
+QString ToolFolder(const QString& appPath, const QString& folderWord, QChar sep);
+
+// Lines joined by CR LF, with no line end after the last.
+QString JoinScriptLines(const QStringList& lines);
+
+// "echo " and as many '=' as `bannerLine` has characters after "echo ".
+QString RuleLine(const QString& bannerLine);
+
+}  // namespace torvane

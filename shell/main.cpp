@@ -1,0 +1,21 @@
+// Torvane starts at its main menu; the application path is the current directory.
+
+#include "job/desktop_services.h"
+#include "shell/frm_mainmenu.h"
+
+#include <QApplication>
+#include <QDir>
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Torvane"));
+
+    torvane::QtMessageBoxes boxes;
+    torvane::QtFileDialogs files;
+    torvane::QtDesktop desktop;
+    torvane::Services services{boxes, files, desktop};
+
+    torvane::frm_mainmenu menu(services, QDir::currentPath());
+    menu.show();
+    return app.exec();
+}

@@ -1,0 +1,47 @@
+#include "tools/adapters/common/adapter_support.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace adapter {
+
+std::string RealToolPath(const std::string& name) {
+    return "/usr/bin/" + name;
+}
+
+int RunTool(const std::string& program, const std::vector<std::string>& args) {
+    std::vector<char*> argv;
+    argv.push_back(const_cast<char*>(program.c_str()));
+    for (const std::string& arg : args) argv.push_back(const_cast<char*>(arg.c_str()));
+    argv.push_back(nullptr);
+
+    std::fflush(nullptr);
+    const pid_t child = fork();
+    if (child < 0) {
+        std::fprintf(stderr, "cannot start %s: %s\n", program.c_str(), std::strerror(errno));
+        return -1;
+    }
+    if (child == 0) {
+        execv(program.c_str(), argv.data());
+        std::fprintf(stderr, "cannot start %s: %s\n", program.c_str(), std::strerror(errno));
+        _exit(127);
+    }
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) return -1;
+    }
+    if (WIFSIGNALED(status)) return 128 + WTERMSIG(status);
+    return WEXITSTATUS(status);
+}
+
+void Fail(const std::string& adapterName, const std::string& message) {
+    std::fflush(stdout);
+    std::fprintf(stderr, "%s: %s\n", adapterName.c_str(), message.c_str());
+    std::exit(1);
+}
+
+}  // namespace adapter
