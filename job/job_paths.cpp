@@ -32,3 +32,19 @@ QString RuleLine(const QString& bannerLine) {
 }
 
 }  // namespace torvane
+
+namespace torvane {
+
+bool AnyHoldsDoubleQuote(const QStringList& paths) {
+    for (const QString& path : paths) {
+        if (path.contains(QLatin1Char('"'))) return true;
+    }
+    return false;
+}
+
+QString QuotedPathMessage() {
+    return QStringLiteral("A file name that holds a double quote cannot be passed to the tool.") +
+           QLatin1Char('\r') + QStringLiteral("Please rename the file or choose another one.");
+}
+
+}  // namespace torvane

@@ -33,3 +33,11 @@ QString JoinScriptLines(const QStringList& lines);
 QString RuleLine(const QString& bannerLine);
 
 }  // namespace torvane
+
+namespace torvane {
+
+// A path that holds a double quote cannot stand between the quotes of a command line.
+bool AnyHoldsDoubleQuote(const QStringList& paths);
+QString QuotedPathMessage();
+
+}  // namespace torvane
