@@ -1,1 +1,144 @@
-// Filled in as the pieces land.
+#include "inspect/frm_vcdxminfo.h"
+
+#include "inspect/vcdxminfo_builder.h"
+#include "job/form_support.h"
+#include "job/job_paths.h"
+#include "shell/frm_mainmenu.h"
+#include "shell/mod_mainmenu.h"
+#include "job/tool_form.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace torvane {
+
+namespace {
+const QString kInputFilter = QStringLiteral(
+    "All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg, *.mpv, *.m2v, *.mp2)|"
+    "*.mpg;*.mpeg;*.mpv;*.m2v;*.mp2");
+const QString kOutputFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
+}  // namespace
+
+frm_vcdxminfo::frm_vcdxminfo(frm_mainmenu& menu, Services& services)
+    : QWidget(nullptr, Qt::Window),
+      frame(*this, services, QStringLiteral("Torvane -- VCDXMINFO Tool"),
+            {[this] { report(); }, [this] { setControlsEnabled(true); }}),
+      menu_(menu),
+      services_(services) {
+    setObjectName(QStringLiteral("frm_vcdxminfo"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("VCDXMINFO - Torvane"));
+    buildControls();
+    Form_Load();
+}
+
+void frm_vcdxminfo::buildControls() {
+    ToolForm form(*this);
+    lbl_input = form.label("lbl_input", "Load MPEG file:", "Specify the MPEG to be analysed");
+    txt_input = form.pathBox("txt_input", "Specify the MPEG file name");
+    cmd_input = form.button("cmd_input", "Browse...", "Browse for the MPEG file");
+    form.addPathRow(lbl_input, txt_input, cmd_input);
+    lbl_output = form.label("lbl_output", "Save the report as an XML file:",
+                            "Specify the output XML filename");
+    txt_output = form.pathBox("txt_output", "Specify the output XML filename");
+    cmd_output = form.button("cmd_output", "Browse...", "Browse for the output XML filename");
+    form.addPathRow(lbl_output, txt_output, cmd_output);
+
+    chk_generic = form.checkBox("chk_generic", "Generic Information",
+                                "Reports generic information - it is recommended to keep this checked");
+    chk_aps = form.checkBox("chk_aps", "APS data",
+                            "Reports APS information -- recommended you keep this checked");
+    chk_apsrelaxed = form.checkBox(
+        "chk_apsrelaxed", "Relax APS contraints",
+        "Check this to report APS data with \"relaxed\" constraints - not recommended unless you "
+        "are using this feature");
+    chk_generic->setChecked(true);
+    chk_aps->setChecked(true);
+    form.addOptionRow({chk_generic, chk_aps, chk_apsrelaxed});
+
+    Frame1 = form.descriptionFrame(
+        "What does VCDXMINFO do?",
+        "VCDXMINFO analyses your MPEG file from the point of view of VCD or SVCD compliance.  It "
+        "will report on many parameters including frame size, bitrate, audio as well as APS data "
+        "(required for entrypoints).  Furthermore, it will also analyse MPEG still images.",
+        QStyle::SP_FileDialogInfoView);
+    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
+
+    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
+    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
+    cmd_about = form.button("cmd_about", "About VCDXMINFO", "About VCDXMINFO");
+    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, QStyle::SP_FileDialogInfoView);
+    form.finish({cmd_input, cmd_output, chk_generic, chk_aps, chk_apsrelaxed, cmd_rip, cmd_cancel,
+                 cmd_about});
+
+    connect(cmd_input, &QPushButton::clicked, this,
+            [this] { Browse(services_.files, BrowseKind::Open, kInputFilter, *txt_input); });
+    connect(cmd_output, &QPushButton::clicked, this,
+            [this] { Browse(services_.files, BrowseKind::Save, kOutputFilter, *txt_output); });
+    connect(chk_aps, &QCheckBox::clicked, this, &frm_vcdxminfo::chk_aps_Click);
+    connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxminfo::cmd_rip_Click);
+    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    MakeCancelButton(*this, *cmd_cancel);
+}
+
+void frm_vcdxminfo::Form_Load() {
+    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    frame.Timer1.setEnabled(false);
+    frame.job_running = 0;
+    crlf = QStringLiteral("\r\n");
+}
+
+void frm_vcdxminfo::chk_aps_Click() {
+    chk_apsrelaxed->setEnabled(chk_aps->isChecked());
+}
+
+void frm_vcdxminfo::cmd_rip_Click() {
+    VcdxminfoInputs in;
+    in.input = txt_input->text();
+    in.output = txt_output->text();
+    in.generic = chk_generic->isChecked();
+    in.aps = chk_aps->isChecked();
+    in.apsRelaxed = chk_apsrelaxed->isChecked();
+    in.toolFolder = tool_folder;
+    in.sep = QChar(kPathSeparator);
+
+    QString message = VcdxminfoValidation(in);
+    if (message.isEmpty() && AnyHoldsDoubleQuote({in.input, in.output}))
+        message = QuotedPathMessage();
+    if (!message.isEmpty()) {
+        InformationBox(services_.boxes, QStringLiteral("Information"), message);
+        return;
+    }
+    setControlsEnabled(false);
+    frame.Start(BuildVcdxminfoJob(in));
+}
+
+void frm_vcdxminfo::setControlsEnabled(bool enabled) {
+    chk_generic->setEnabled(enabled);
+    chk_aps->setEnabled(enabled);
+    chk_apsrelaxed->setEnabled(enabled && chk_aps->isChecked());
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             txt_output, cmd_output, txt_input, cmd_input, cmd_about, cmd_rip, cmd_cancel})
+        control->setEnabled(enabled);
+}
+
+void frm_vcdxminfo::report() {
+    if (QuestionBox(services_.boxes, QStringLiteral("Question"),
+                    VcdxminfoReportText(txt_output->text())) == vbYes)
+        services_.desktop.openInViewer(txt_output->text());
+}
+
+void frm_vcdxminfo::closeEvent(QCloseEvent* event) {
+    if (!frame.Form_Unload()) {
+        event->ignore();
+        return;
+    }
+    ReturnToMainMenu(menu_);
+    event->accept();
+}
+
+}  // namespace torvane

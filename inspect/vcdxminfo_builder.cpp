@@ -1,1 +1,54 @@
-// Filled in as the pieces land.
+#include "inspect/vcdxminfo_builder.h"
+
+#include "job/job_paths.h"
+
+namespace torvane {
+
+namespace {
+const QChar Quote = QLatin1Char('"');
+const QChar CR = QLatin1Char('\r');
+}  // namespace
+
+QString VcdxminfoValidation(const VcdxminfoInputs& in) {
+    if (in.output.isEmpty()) return QStringLiteral("You have not set an output file!");
+    if (in.input.isEmpty()) return QStringLiteral("You have not loaded an input XML file!");
+    return {};
+}
+
+QString VcdxminfoSwitches(const VcdxminfoInputs& in) {
+    QString switches;
+    if (in.generic) switches = QStringLiteral("-i");
+    if (in.aps) {
+        switches += QStringLiteral(" -a");
+        if (in.apsRelaxed) switches += QStringLiteral(" --relaxed-aps");
+    }
+    return switches;
+}
+
+JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in) {
+    const OutputSplit split = SplitOutputPath(in.output, in.sep);
+    const QString switches = VcdxminfoSwitches(in);
+
+    JobPlan plan;
+    plan.commandLine = Quote + in.toolFolder + QStringLiteral("vcdxminfo.exe") + Quote +
+                       QLatin1Char(' ') + switches + QStringLiteral(" -v  -p ") +
+                       QStringLiteral("--output-file=") + Quote + in.output + Quote +
+                       QLatin1Char(' ') + Quote + in.input + Quote;
+    plan.jobDir = split.output_dir;
+    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
+    plan.scriptLines = ScriptOpening(QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
+    plan.scriptLines << QStringLiteral("echo Input MPEG File:  ") + in.input
+                     << QStringLiteral("echo Output XML File:  ") + split.fileName
+                     << QStringLiteral("echo Option switches:  ") + switches + QStringLiteral(" -v -p")
+                     << QStringLiteral("echo.") << plan.commandLine;
+    plan.scriptLines << ScriptClosing();
+    return plan;
+}
+
+QString VcdxminfoReportText(const QString& output) {
+    return QStringLiteral("Finished!") + CR + CR +
+           QStringLiteral("Do you want to open the XML file now?") + QStringLiteral("\r\n\r\n") +
+           output;
+}
+
+}  // namespace torvane

@@ -48,3 +48,17 @@ QString QuotedPathMessage() {
 }
 
 }  // namespace torvane
+
+namespace torvane {
+
+QStringList ScriptOpening(const QString& banner) {
+    const QString bannerLine = QStringLiteral("echo ") + banner;
+    return {QStringLiteral("echo off"), QStringLiteral("cls"), bannerLine, RuleLine(bannerLine)};
+}
+
+QStringList ScriptClosing() {
+    return {QStringLiteral("echo."), QStringLiteral("echo Finished!"), QStringLiteral("pause"),
+            QStringLiteral("cls"), QStringLiteral("echo ***end***")};
+}
+
+}  // namespace torvane

@@ -41,3 +41,15 @@ bool AnyHoldsDoubleQuote(const QStringList& paths);
 QString QuotedPathMessage();
 
 }  // namespace torvane
+
+namespace torvane {
+
+// The first lines of every job script: "echo off", "cls", "echo " + banner, and a rule of
+// as many '=' as the banner has characters.
+QStringList ScriptOpening(const QString& banner);
+
+// The last lines of a job script that waits for a key: "echo.", "echo Finished!", "pause",
+// "cls", "echo ***end***". The end marker lands at row 0, column 0 after the clear.
+QStringList ScriptClosing();
+
+}  // namespace torvane

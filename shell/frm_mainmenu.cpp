@@ -1,1 +1,237 @@
-// Filled in as the pieces land.
+#include "shell/frm_mainmenu.h"
+
+#include "shell/mod_mainmenu.h"
+#include "shell/tool_dialogs.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStyle>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace torvane {
+
+struct ToolButtonEntry {
+    const char* key;
+    int tab;
+    int frame;  // 0: the tab's first frame, 1: its second
+    const char* caption;
+    const char* tip;
+    const char* title;
+    QStyle::StandardPixmap picture;
+};
+
+namespace {
+
+const QChar CR = QLatin1Char('\r');
+const QChar Quote = QLatin1Char('"');
+
+QString Label1Text() {
+    return QStringLiteral("lkVCDImager started out as a ") + Quote + QStringLiteral("lkVCDxBUILD") +
+           Quote + QStringLiteral(" only and was a fork of VCDXBUILD ") +
+           QStringLiteral("from VCDImager 0.7.10.  Of note, it allowed ISO Level 2 filenames ") +
+           QStringLiteral("(long filenames) on the VCD filesystem.  Each of these tools ") +
+           QStringLiteral("contain enhancements and are highly recommended over the ") + Quote +
+           QStringLiteral("vanilla") + Quote + QStringLiteral(" VCDImager versions.") + CR + CR +
+           QStringLiteral("lkVCDImager was created by:") + CR +
+           QStringLiteral("the authors of the lkVCDImager fork,") + CR +
+           QStringLiteral("building on GNU VCDImager 0.7.10") + CR +
+           QStringLiteral("by the GNU VCDImager authors.");
+}
+
+QString Label2Text() {
+    return QStringLiteral("These additional tools are not part of VCDImager itself ") +
+           QStringLiteral("but are useful additional functions.") +
+           QStringLiteral(" They were written by the makers of Torvane ") +
+           QStringLiteral("and are exclusive to this program.");
+}
+
+}  // namespace
+
+// Keys, places, captions, tool tips and titles of the eleven tool buttons, in tab order
+// (but for lkvcdxrip, which comes last of all).
+namespace {
+
+const ToolButtonEntry kTools[] = {
+    {"vcdimager", 0, 0, "&vcdimager", "Use VCDIMAGER to make a S/VCD image from you MPEG.",
+     "VCDIMAGER", QStyle::SP_DriveCDIcon},
+    {"vcdxgen", 0, 0, "vcdx&gen", "Use VCDXGEN to generate a simple XML.", "VCDXGEN",
+     QStyle::SP_FileDialogDetailedView},
+    {"vcdxbuild", 0, 0, "vcdx&build", "Use VCDXBUILD to create your S/VCD image.", "VCDXBUILD",
+     QStyle::SP_DialogSaveButton},
+    {"vcdxrip", 0, 0, "vcdx&rip", "Use VCDXRIP to rip a disc image to XML and MPEG.", "VCDXRIP",
+     QStyle::SP_DialogOpenButton},
+    {"cdxa2mpeg", 0, 0, "&cdxa2mpeg",
+     "Use CDXA2MPEG to remove RIFF headers from MPEG files copied off S/VCDs.", "CDXA2MPEG",
+     QStyle::SP_MediaPlay},
+    {"vcdxminfo", 0, 1, "vcdxm&info", "Use VCDXMINFO to analyse MPEG files.", "VCDXMINFO",
+     QStyle::SP_FileDialogInfoView},
+    {"vcddebug", 0, 1, "vcd&debug", "Use VCDDEBUG to analyse a S/VCD disc image.", "VCDDEBUG",
+     QStyle::SP_FileDialogContentsView},
+    {"lkvcdxbuild", 1, 0, "lkvcdxbuild",
+     "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.", "lkVCDxBUILD",
+     QStyle::SP_DriveDVDIcon},
+    {"subindex", 2, 0, "&subindices",
+     "Use Subindicies Remover to strip the subindices from your cuesheets",
+     "Subindicies Remover", QStyle::SP_FileDialogListView},
+    {"regen", 2, 0, "rege&nerator",
+     "Use Image Regenerator to recreate a CUE/BIN image if you are missing the CUE file",
+     "CUE/BIN Regenerator", QStyle::SP_BrowserReload},
+    {"lkvcdxrip", 1, 0, "lkvcdxrip", "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files",
+     "lkVCDxRIP", QStyle::SP_DirOpenIcon},
+};
+
+}  // namespace
+
+frm_mainmenu::frm_mainmenu(Services& services, const QString& appPath)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowCloseButtonHint),
+      services_(services) {
+    setObjectName(QStringLiteral("frm_mainmenu"));
+    setWindowTitle(QStringLiteral("Torvane"));
+
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->addTab(buildTab({"Frame1", "Main Authoring Tools", "Frame2", "Information Tools"}, 0),
+                   QStringLiteral("GNU VCDImager 0.7.12"));
+    SSTab1->addTab(buildTab({"Frame3", "lkVCDImager 5.0.7.10 Tools", "Frame6",
+                             "About lkVCDImager 5.0.7.10 Tools"},
+                            1),
+                   QStringLiteral("lkVCDImager 5.0.7.10"));
+    SSTab1->addTab(buildTab({"Frame5", "Special Additional Tools", "Frame7",
+                             "About the Additional Tools"},
+                            2),
+                   QStringLiteral("Special Additional"));
+
+    Frame4 = new QGroupBox(QStringLiteral("Description"), this);
+    Frame4->setObjectName(QStringLiteral("Frame4"));
+    lbl_des = new QLabel(Frame4);
+    lbl_des->setObjectName(QStringLiteral("lbl_des"));
+    lbl_des->setWordWrap(true);
+    lbl_des->setMinimumHeight(90);
+    (new QVBoxLayout(Frame4))->addWidget(lbl_des);
+
+    cmd_about = makeButton(QStringLiteral("cmd_about"), QStringLiteral("&About"),
+                           QStringLiteral("About this program."));
+    cmd_about->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
+    cmd_quit = makeButton(QStringLiteral("cmd_quit"), QStringLiteral("&Quit"),
+                          QStringLiteral("Click here to exit."));
+    cmd_quit->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
+    connect(cmd_quit, &QPushButton::clicked, this, &frm_mainmenu::cmd_quit_Click);
+    // The program's own About box is not part of this build.
+    cmd_about->setEnabled(false);
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, cmd_quit, &QPushButton::click);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmd_about);
+    buttons->addStretch();
+    buttons->addWidget(cmd_quit);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(SSTab1);
+    layout->addWidget(Frame4);
+    layout->addLayout(buttons);
+
+    applyTabOrder();
+    Form_Load(appPath);
+    setFixedSize(sizeHint());
+}
+
+void frm_mainmenu::Form_Load(const QString& appPath) {
+    Tag = appPath;
+    crlf = QStringLiteral("\r\n");
+    version_text = QStringLiteral("Version %1.%2.%3")
+                       .arg(TORVANE_VERSION_MAJOR)
+                       .arg(TORVANE_VERSION_MINOR)
+                       .arg(TORVANE_VERSION_REVISION);
+    Label1->setText(Label1Text());
+    Label2->setText(Label2Text());
+}
+
+QWidget* frm_mainmenu::buildTab(const FrameNames& frames, int tab) {
+    auto* page = new QWidget;
+    auto* row = new QHBoxLayout(page);
+    QVBoxLayout* frameLayouts[2];
+    const char* names[2] = {frames.firstName, frames.secondName};
+    const char* captions[2] = {frames.firstCaption, frames.secondCaption};
+    for (int frame = 0; frame < 2; ++frame) {
+        auto* box = new QGroupBox(QLatin1String(captions[frame]), page);
+        box->setObjectName(QLatin1String(names[frame]));
+        frameLayouts[frame] = new QVBoxLayout(box);
+        row->addWidget(box);
+    }
+    for (const ToolButtonEntry& entry : kTools) {
+        if (entry.tab == tab) addToolButton(entry, *frameLayouts[entry.frame]);
+    }
+    if (tab == 1 || tab == 2) {
+        QLabel*& label = tab == 1 ? Label1 : Label2;
+        label = new QLabel(page);
+        label->setObjectName(tab == 1 ? QStringLiteral("Label1") : QStringLiteral("Label2"));
+        label->setWordWrap(true);
+        label->setMinimumWidth(300);
+        frameLayouts[1]->addWidget(label);
+    }
+    for (QVBoxLayout* layout : frameLayouts) layout->addStretch();
+    return page;
+}
+
+QPushButton* frm_mainmenu::makeButton(const QString& name, const QString& caption,
+                                      const QString& tip) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void frm_mainmenu::addToolButton(const ToolButtonEntry& entry, QVBoxLayout& frameLayout) {
+    const QString key = QLatin1String(entry.key);
+    QPushButton* button = makeButton(QStringLiteral("cmd_") + key, QLatin1String(entry.caption),
+                                     QLatin1String(entry.tip));
+    button->setIcon(style()->standardIcon(entry.picture));
+    button->setIconSize(QSize(32, 32));
+    button->setMinimumHeight(44);
+    frameLayout.addWidget(button);
+    toolButtons[key] = button;
+
+    const bool available = ToolDialogFactories().count(key) != 0;
+    button->setEnabled(available);
+    connect(button, &QPushButton::clicked, this, [this, key] { openTool(key); });
+}
+
+QWidget* frm_mainmenu::openTool(const QString& key) {
+    const auto& factories = ToolDialogFactories();
+    const auto factory = factories.find(key);
+    if (factory == factories.end()) return nullptr;
+    for (const ToolButtonEntry& entry : kTools) {
+        if (key == QLatin1String(entry.key)) EnterToolDialog(*this, QLatin1String(entry.title));
+    }
+    QWidget* dialog = factory->second(*this, services_);
+    dialog->show();
+    return dialog;
+}
+
+void frm_mainmenu::applyTabOrder() {
+    QWidget* previous = SSTab1;
+    for (const ToolButtonEntry& entry : kTools) {
+        if (QLatin1String(entry.key) == QLatin1String("lkvcdxrip")) continue;
+        QWidget* button = toolButtons[QLatin1String(entry.key)];
+        setTabOrder(previous, button);
+        previous = button;
+    }
+    setTabOrder(previous, cmd_about);
+    setTabOrder(cmd_about, cmd_quit);
+    setTabOrder(cmd_quit, toolButtons[QStringLiteral("lkvcdxrip")]);
+}
+
+void frm_mainmenu::cmd_quit_Click() {
+    // At once: no question, no unload events.
+    QCoreApplication::exit(0);
+}
+
+}  // namespace torvane

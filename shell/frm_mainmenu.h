@@ -5,15 +5,17 @@
 
 #include <QString>
 #include <QWidget>
-#include <functional>
 #include <map>
 
+class QGroupBox;
 class QLabel;
 class QPushButton;
 class QTabWidget;
-class QGroupBox;
+class QVBoxLayout;
 
 namespace torvane {
+
+struct ToolButtonEntry;
 
 class frm_mainmenu : public QWidget {
     Q_OBJECT
@@ -26,29 +28,34 @@ public:
     QString crlf;
     QString version_text;
 
-    // Opens the tool dialog of a button, as its click does. Returns the dialog, or null
-    // for a button whose dialog does not exist in this build.
+    // What a click on a tool button does: the menu steps aside and the tool's dialog
+    // shows. Returns the dialog, or null for a key without one in this build.
     QWidget* openTool(const QString& key);
 
-    QTabWidget* SSTab1;
-    QPushButton* cmd_about;
-    QPushButton* cmd_quit;
-    QGroupBox* Frame4;
-    QLabel* lbl_des;
-    QLabel* Label1;
-    QLabel* Label2;
+    QTabWidget* SSTab1 = nullptr;
+    QPushButton* cmd_about = nullptr;
+    QPushButton* cmd_quit = nullptr;
+    QGroupBox* Frame4 = nullptr;
+    QLabel* lbl_des = nullptr;
+    QLabel* Label1 = nullptr;
+    QLabel* Label2 = nullptr;
     std::map<QString, QPushButton*> toolButtons;  // by key: "vcdimager", "vcdxgen", ...
 
 private:
-    struct ToolEntry;
-    void buildTabs();
-    void buildToolButton(const ToolEntry& entry, class QVBoxLayout& frameLayout);
-    void setTabOrder();
+    void Form_Load(const QString& appPath);
+    struct FrameNames {
+        const char* firstName;
+        const char* firstCaption;
+        const char* secondName;
+        const char* secondCaption;
+    };
+    QWidget* buildTab(const FrameNames& frames, int tab);
+    void addToolButton(const ToolButtonEntry& entry, QVBoxLayout& frameLayout);
+    QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip);
+    void applyTabOrder();
     void cmd_quit_Click();
-    void cmd_about_Click();
 
     Services& services_;
-    std::map<QString, std::function<QWidget*()>> dialogFactories_;
 };
 
 }  // namespace torvane

@@ -1,0 +1,49 @@
+#pragma once
+// Builds the controls of a tool dialog in the one layout they all share: path rows on
+// top, option rows, the "What does ... do?" frame, then Go, Cancel and About. Every
+// control gets its name as objectName, so tests and the tab order can find it.
+
+#include <QStyle>
+#include <QString>
+#include <initializer_list>
+
+class QBoxLayout;
+class QCheckBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QVBoxLayout;
+class QWidget;
+
+namespace torvane {
+
+class ToolForm {
+public:
+    explicit ToolForm(QWidget& form);
+
+    QLabel* label(const char* name, const char* caption, const char* tip);
+    // Read-only and out of the tab order: only the browse handlers fill it.
+    QLineEdit* pathBox(const char* name, const char* tip);
+    QPushButton* button(const char* name, const char* caption, const char* tip);
+    QCheckBox* checkBox(const char* name, const char* caption, const char* tip);
+    QRadioButton* optionButton(const char* name, const char* caption, const char* tip);
+
+    void addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse);
+    void addOptionRow(std::initializer_list<QWidget*> options);
+    // A frame with the tool's picture ("Image1") and its description ("Label1").
+    QGroupBox* descriptionFrame(const char* title, const char* text, QStyle::StandardPixmap picture);
+    void addCommandRow(QPushButton* go, QPushButton* cancel, QPushButton* about,
+                       QStyle::StandardPixmap aboutPicture);
+    // Sets the tab order and fixes the size.
+    void finish(std::initializer_list<QWidget*> tabOrder);
+
+private:
+    QWidget& form_;
+    QVBoxLayout* layout_;
+    QGridLayout* paths_;
+};
+
+}  // namespace torvane
