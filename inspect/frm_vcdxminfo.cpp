@@ -3,9 +3,9 @@
 #include "inspect/vcdxminfo_builder.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
+#include "job/tool_form.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_mainmenu.h"
-#include "job/tool_form.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -42,14 +42,15 @@ void frm_vcdxminfo::buildControls() {
     txt_input = form.pathBox("txt_input", "Specify the MPEG file name");
     cmd_input = form.button("cmd_input", "Browse...", "Browse for the MPEG file");
     form.addPathRow(lbl_input, txt_input, cmd_input);
-    lbl_output = form.label("lbl_output", "Save the report as an XML file:",
-                            "Specify the output XML filename");
+    lbl_output = form.label("lbl_output",
+                            "Save the report as an XML file:", "Specify the output XML filename");
     txt_output = form.pathBox("txt_output", "Specify the output XML filename");
     cmd_output = form.button("cmd_output", "Browse...", "Browse for the output XML filename");
     form.addPathRow(lbl_output, txt_output, cmd_output);
 
-    chk_generic = form.checkBox("chk_generic", "Generic Information",
-                                "Reports generic information - it is recommended to keep this checked");
+    chk_generic =
+        form.checkBox("chk_generic", "Generic Information",
+                      "Reports generic information - it is recommended to keep this checked");
     chk_aps = form.checkBox("chk_aps", "APS data",
                             "Reports APS information -- recommended you keep this checked");
     chk_apsrelaxed = form.checkBox(

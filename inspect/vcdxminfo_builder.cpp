@@ -10,17 +10,21 @@ const QChar CR = QLatin1Char('\r');
 }  // namespace
 
 QString VcdxminfoValidation(const VcdxminfoInputs& in) {
-    if (in.output.isEmpty()) return QStringLiteral("You have not set an output file!");
-    if (in.input.isEmpty()) return QStringLiteral("You have not loaded an input XML file!");
+    if (in.output.isEmpty())
+        return QStringLiteral("You have not set an output file!");
+    if (in.input.isEmpty())
+        return QStringLiteral("You have not loaded an input XML file!");
     return {};
 }
 
 QString VcdxminfoSwitches(const VcdxminfoInputs& in) {
     QString switches;
-    if (in.generic) switches = QStringLiteral("-i");
+    if (in.generic)
+        switches = QStringLiteral("-i");
     if (in.aps) {
         switches += QStringLiteral(" -a");
-        if (in.apsRelaxed) switches += QStringLiteral(" --relaxed-aps");
+        if (in.apsRelaxed)
+            switches += QStringLiteral(" --relaxed-aps");
     }
     return switches;
 }
@@ -36,10 +40,12 @@ JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in) {
                        QLatin1Char(' ') + Quote + in.input + Quote;
     plan.jobDir = split.output_dir;
     plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
-    plan.scriptLines = ScriptOpening(QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
+    plan.scriptLines =
+        ScriptOpening(QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input MPEG File:  ") + in.input
                      << QStringLiteral("echo Output XML File:  ") + split.fileName
-                     << QStringLiteral("echo Option switches:  ") + switches + QStringLiteral(" -v -p")
+                     << QStringLiteral("echo Option switches:  ") + switches +
+                            QStringLiteral(" -v -p")
                      << QStringLiteral("echo.") << plan.commandLine;
     plan.scriptLines << ScriptClosing();
     return plan;

@@ -10,8 +10,8 @@
 namespace torvane {
 
 struct VcdxminfoInputs {
-    QString input;   // txt_input
-    QString output;  // txt_output
+    QString input;            // txt_input
+    QString output;           // txt_output
     bool generic = true;      // chk_generic ticked
     bool aps = true;          // chk_aps ticked
     bool apsRelaxed = false;  // chk_apsrelaxed ticked

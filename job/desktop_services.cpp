@@ -42,9 +42,15 @@ int QtMessageBoxes::show(const MessageBoxRequest& request) {
     box.setWindowTitle(request.title.isEmpty() ? QStringLiteral("Torvane") : request.title);
     box.setText(DisplayText(request.text));
     switch (request.icon) {
-        case MessageBoxRequest::Icon::None: box.setIcon(QMessageBox::NoIcon); break;
-        case MessageBoxRequest::Icon::Information: box.setIcon(QMessageBox::Information); break;
-        case MessageBoxRequest::Icon::Question: box.setIcon(QMessageBox::Question); break;
+        case MessageBoxRequest::Icon::None:
+            box.setIcon(QMessageBox::NoIcon);
+            break;
+        case MessageBoxRequest::Icon::Information:
+            box.setIcon(QMessageBox::Information);
+            break;
+        case MessageBoxRequest::Icon::Question:
+            box.setIcon(QMessageBox::Question);
+            break;
     }
     if (request.buttons == MessageBoxRequest::Buttons::Ok) {
         box.setStandardButtons(QMessageBox::Ok);

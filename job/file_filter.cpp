@@ -23,7 +23,8 @@ QStringList QtNameFilters(const QString& filter) {
         QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
         for (QString& pattern : patterns) {
             pattern = pattern.trimmed();
-            if (pattern == QLatin1String("*.*")) pattern = QStringLiteral("*");
+            if (pattern == QLatin1String("*.*"))
+                pattern = QStringLiteral("*");
         }
         result << DescriptionWithoutPatterns(parts[i]) + QStringLiteral(" (") +
                       patterns.join(QLatin1Char(' ')) + QLatin1Char(')');

@@ -16,13 +16,15 @@ void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdi
     const std::optional<QString> name = kind == BrowseKind::Open
                                             ? files.openFileName(filter, kToolFilterIndex)
                                             : files.saveFileName(filter, kToolFilterIndex);
-    if (name) target.setText(*name);
+    if (name)
+        target.setText(*name);
 }
 
 void MakeCancelButton(QWidget& form, QPushButton& cancel) {
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &form);
     QObject::connect(escape, &QShortcut::activated, &cancel, [&cancel] {
-        if (cancel.isEnabled()) cancel.click();
+        if (cancel.isEnabled())
+            cancel.click();
     });
 }
 

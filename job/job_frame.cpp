@@ -15,13 +15,15 @@ constexpr int kFirstTickMs = 100;
 constexpr int kPollMs = 250;
 
 void DeleteFile(const QString& path) {
-    if (!path.isEmpty()) QFile::remove(path);
+    if (!path.isEmpty())
+        QFile::remove(path);
 }
 
 // Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
 void WriteScript(const QString& path, const QString& text) {
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) file.write(text.toLocal8Bit());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(text.toLocal8Bit());
 }
 
 }  // namespace
@@ -93,10 +95,12 @@ void JobFrame::finishJob() {
     // Stopped before any box shows, so the end-of-job step runs exactly once.
     Timer1.setEnabled(false);
     console.reset();
-    if (hooks_.report) hooks_.report();
+    if (hooks_.report)
+        hooks_.report();
     deleteJobFiles();
     dialog_.showNormal();
-    if (hooks_.enableControls) hooks_.enableControls();
+    if (hooks_.enableControls)
+        hooks_.enableControls();
     Timer1.setEnabled(false);
     Timer1.Tag = QStringLiteral("0");
     job_running = 0;
@@ -107,23 +111,27 @@ void JobFrame::abandonJob() {
     console.reset();
     deleteJobFiles();
     dialog_.showNormal();
-    if (hooks_.enableControls) hooks_.enableControls();
+    if (hooks_.enableControls)
+        hooks_.enableControls();
     Timer1.Tag = QStringLiteral("0");
     job_running = 0;
 }
 
 void JobFrame::deleteJobFiles() {
     DeleteFile(script_path);
-    for (const QString& path : extraFiles_) DeleteFile(path);
+    for (const QString& path : extraFiles_)
+        DeleteFile(path);
 }
 
 bool JobFrame::Form_Unload() {
-    if (job_running != -1) return true;
-    const int answer = ConfirmationBox(
-        services_.boxes, QStringLiteral("Information"),
-        QStringLiteral("The command is still running!  Are you") + QLatin1Char('\r') +
-            QStringLiteral("sure that you want to quit?"));
-    if (answer == vbNo) return false;
+    if (job_running != -1)
+        return true;
+    const int answer =
+        ConfirmationBox(services_.boxes, QStringLiteral("Information"),
+                        QStringLiteral("The command is still running!  Are you") +
+                            QLatin1Char('\r') + QStringLiteral("sure that you want to quit?"));
+    if (answer == vbNo)
+        return false;
     // The job ends with the dialog; the user's files are not touched.
     Timer1.setEnabled(false);
     console.reset();

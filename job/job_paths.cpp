@@ -17,7 +17,8 @@ OutputSplit SplitOutputPath(const QString& path, QChar sep) {
 
 QString ToolFolder(const QString& appPath, const QString& folderWord, QChar sep) {
     QString folder = appPath;
-    if (!folder.endsWith(sep)) folder += sep;
+    if (!folder.endsWith(sep))
+        folder += sep;
     return folder + folderWord + sep;
 }
 
@@ -37,7 +38,8 @@ namespace torvane {
 
 bool AnyHoldsDoubleQuote(const QStringList& paths) {
     for (const QString& path : paths) {
-        if (path.contains(QLatin1Char('"'))) return true;
+        if (path.contains(QLatin1Char('"')))
+            return true;
     }
     return false;
 }

@@ -9,9 +9,9 @@ namespace torvane {
 
 struct JobPlan {
     QString commandLine;
-    QString jobDir;       // the directory the job runs in, with its trailing separator
-    QString scriptPath;   // jobDir + "run.bat"
-    QString logPath;      // empty for tools that keep no log
+    QString jobDir;      // the directory the job runs in, with its trailing separator
+    QString scriptPath;  // jobDir + "run.bat"
+    QString logPath;     // empty for tools that keep no log
     QStringList scriptLines;
 };
 

@@ -19,7 +19,8 @@ void JobTimer::setInterval(int milliseconds) {
 
 void JobTimer::rearm() {
     timer_.stop();
-    if (enabled_ && interval_ > 0) timer_.start(interval_);
+    if (enabled_ && interval_ > 0)
+        timer_.start(interval_);
 }
 
 }  // namespace torvane

@@ -17,7 +17,8 @@ namespace {
 template <typename Control>
 Control* Named(Control* control, const char* name, const char* tip) {
     control->setObjectName(QLatin1String(name));
-    if (tip) control->setToolTip(QString::fromUtf8(tip));
+    if (tip)
+        control->setToolTip(QString::fromUtf8(tip));
     return control;
 }
 
@@ -66,7 +67,8 @@ void ToolForm::addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse) {
 
 void ToolForm::addOptionRow(std::initializer_list<QWidget*> options) {
     auto* row = new QHBoxLayout;
-    for (QWidget* option : options) row->addWidget(option);
+    for (QWidget* option : options)
+        row->addWidget(option);
     row->addStretch();
     layout_->addLayout(row);
 }
@@ -88,9 +90,11 @@ QGroupBox* ToolForm::descriptionFrame(const char* title, const char* text,
 
 void ToolForm::addCommandRow(QPushButton* go, QPushButton* cancel, QPushButton* about,
                              QStyle::StandardPixmap aboutPicture) {
-    if (about) about->setIcon(form_.style()->standardIcon(aboutPicture));
+    if (about)
+        about->setIcon(form_.style()->standardIcon(aboutPicture));
     auto* row = new QHBoxLayout;
-    if (about) row->addWidget(about);
+    if (about)
+        row->addWidget(about);
     row->addStretch();
     row->addWidget(go);
     row->addWidget(cancel);
@@ -100,7 +104,8 @@ void ToolForm::addCommandRow(QPushButton* go, QPushButton* cancel, QPushButton* 
 void ToolForm::finish(std::initializer_list<QWidget*> tabOrder) {
     QWidget* previous = nullptr;
     for (QWidget* control : tabOrder) {
-        if (previous) QWidget::setTabOrder(previous, control);
+        if (previous)
+            QWidget::setTabOrder(previous, control);
         previous = control;
     }
     form_.setFixedSize(form_.sizeHint());

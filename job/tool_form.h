@@ -3,8 +3,8 @@
 // top, option rows, the "What does ... do?" frame, then Go, Cancel and About. Every
 // control gets its name as objectName, so tests and the tab order can find it.
 
-#include <QStyle>
 #include <QString>
+#include <QStyle>
 #include <initializer_list>
 
 class QBoxLayout;
@@ -34,7 +34,8 @@ public:
     void addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse);
     void addOptionRow(std::initializer_list<QWidget*> options);
     // A frame with the tool's picture ("Image1") and its description ("Label1").
-    QGroupBox* descriptionFrame(const char* title, const char* text, QStyle::StandardPixmap picture);
+    QGroupBox* descriptionFrame(const char* title, const char* text,
+                                QStyle::StandardPixmap picture);
     void addCommandRow(QPushButton* go, QPushButton* cancel, QPushButton* about,
                        QStyle::StandardPixmap aboutPicture);
     // Sets the tab order and fixes the size.

@@ -1,9 +1,12 @@
 #include "shell/frm_mainmenu.h"
 
+#include "about/frmAbout.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/tool_descriptions.h"
 #include "shell/tool_dialogs.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeySequence>
@@ -11,6 +14,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -77,8 +81,8 @@ const ToolButtonEntry kTools[] = {
      "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.", "lkVCDxBUILD",
      QStyle::SP_DriveDVDIcon},
     {"subindex", 2, 0, "&subindices",
-     "Use Subindicies Remover to strip the subindices from your cuesheets",
-     "Subindicies Remover", QStyle::SP_FileDialogListView},
+     "Use Subindicies Remover to strip the subindices from your cuesheets", "Subindicies Remover",
+     QStyle::SP_FileDialogListView},
     {"regen", 2, 0, "rege&nerator",
      "Use Image Regenerator to recreate a CUE/BIN image if you are missing the CUE file",
      "CUE/BIN Regenerator", QStyle::SP_BrowserReload},
@@ -103,17 +107,16 @@ frm_mainmenu::frm_mainmenu(Services& services, const QString& appPath)
                              "About lkVCDImager 5.0.7.10 Tools"},
                             1),
                    QStringLiteral("lkVCDImager 5.0.7.10"));
-    SSTab1->addTab(buildTab({"Frame5", "Special Additional Tools", "Frame7",
-                             "About the Additional Tools"},
-                            2),
-                   QStringLiteral("Special Additional"));
+    SSTab1->addTab(
+        buildTab({"Frame5", "Special Additional Tools", "Frame7", "About the Additional Tools"}, 2),
+        QStringLiteral("Special Additional"));
 
     Frame4 = new QGroupBox(QStringLiteral("Description"), this);
     Frame4->setObjectName(QStringLiteral("Frame4"));
     lbl_des = new QLabel(Frame4);
     lbl_des->setObjectName(QStringLiteral("lbl_des"));
     lbl_des->setWordWrap(true);
-    lbl_des->setMinimumHeight(90);
+    lbl_des->setMinimumHeight(120);
     (new QVBoxLayout(Frame4))->addWidget(lbl_des);
 
     cmd_about = makeButton(QStringLiteral("cmd_about"), QStringLiteral("&About"),
@@ -123,8 +126,7 @@ frm_mainmenu::frm_mainmenu(Services& services, const QString& appPath)
                           QStringLiteral("Click here to exit."));
     cmd_quit->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
     connect(cmd_quit, &QPushButton::clicked, this, &frm_mainmenu::cmd_quit_Click);
-    // The program's own About box is not part of this build.
-    cmd_about->setEnabled(false);
+    connect(cmd_about, &QPushButton::clicked, this, &frm_mainmenu::cmd_about_Click);
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(escape, &QShortcut::activated, cmd_quit, &QPushButton::click);
 
@@ -138,7 +140,15 @@ frm_mainmenu::frm_mainmenu(Services& services, const QString& appPath)
     layout->addLayout(buttons);
 
     applyTabOrder();
+    for (QWidget* watched : {static_cast<QWidget*>(SSTab1), static_cast<QWidget*>(SSTab1->tabBar()),
+                             static_cast<QWidget*>(cmd_about), static_cast<QWidget*>(cmd_quit)})
+        watched->installEventFilter(this);
+    for (const auto& entry : toolButtons)
+        entry.second->installEventFilter(this);
+    connect(SSTab1, &QTabWidget::currentChanged, this, [this] { ShowTabDescription(*this); });
     Form_Load(appPath);
+    SSTab1->setFocus();
+    ShowTabDescription(*this);
     setFixedSize(sizeHint());
 }
 
@@ -166,7 +176,8 @@ QWidget* frm_mainmenu::buildTab(const FrameNames& frames, int tab) {
         row->addWidget(box);
     }
     for (const ToolButtonEntry& entry : kTools) {
-        if (entry.tab == tab) addToolButton(entry, *frameLayouts[entry.frame]);
+        if (entry.tab == tab)
+            addToolButton(entry, *frameLayouts[entry.frame]);
     }
     if (tab == 1 || tab == 2) {
         QLabel*& label = tab == 1 ? Label1 : Label2;
@@ -176,7 +187,8 @@ QWidget* frm_mainmenu::buildTab(const FrameNames& frames, int tab) {
         label->setMinimumWidth(300);
         frameLayouts[1]->addWidget(label);
     }
-    for (QVBoxLayout* layout : frameLayouts) layout->addStretch();
+    for (QVBoxLayout* layout : frameLayouts)
+        layout->addStretch();
     return page;
 }
 
@@ -207,9 +219,11 @@ void frm_mainmenu::addToolButton(const ToolButtonEntry& entry, QVBoxLayout& fram
 QWidget* frm_mainmenu::openTool(const QString& key) {
     const auto& factories = ToolDialogFactories();
     const auto factory = factories.find(key);
-    if (factory == factories.end()) return nullptr;
+    if (factory == factories.end())
+        return nullptr;
     for (const ToolButtonEntry& entry : kTools) {
-        if (key == QLatin1String(entry.key)) EnterToolDialog(*this, QLatin1String(entry.title));
+        if (key == QLatin1String(entry.key))
+            EnterToolDialog(*this, QLatin1String(entry.title));
     }
     QWidget* dialog = factory->second(*this, services_);
     dialog->show();
@@ -219,7 +233,8 @@ QWidget* frm_mainmenu::openTool(const QString& key) {
 void frm_mainmenu::applyTabOrder() {
     QWidget* previous = SSTab1;
     for (const ToolButtonEntry& entry : kTools) {
-        if (QLatin1String(entry.key) == QLatin1String("lkvcdxrip")) continue;
+        if (QLatin1String(entry.key) == QLatin1String("lkvcdxrip"))
+            continue;
         QWidget* button = toolButtons[QLatin1String(entry.key)];
         setTabOrder(previous, button);
         previous = button;
@@ -227,6 +242,29 @@ void frm_mainmenu::applyTabOrder() {
     setTabOrder(previous, cmd_about);
     setTabOrder(cmd_about, cmd_quit);
     setTabOrder(cmd_quit, toolButtons[QStringLiteral("lkvcdxrip")]);
+}
+
+bool frm_mainmenu::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    const bool pointedAt = type == QEvent::FocusIn || type == QEvent::Enter ||
+                           type == QEvent::MouseMove || type == QEvent::HoverMove;
+    if (watched == SSTab1 || watched == SSTab1->tabBar()) {
+        if (type == QEvent::FocusIn || type == QEvent::FocusOut)
+            ShowTabDescription(*this);
+    } else if (watched == cmd_about && pointedAt) {
+        lbl_des->setText(AboutDescription(version_text));
+    } else if (watched == cmd_quit && pointedAt) {
+        lbl_des->setText(QuitDescription());
+    } else if (pointedAt) {
+        ShowToolDescription(*this, watched->objectName().mid(4));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frm_mainmenu::cmd_about_Click() {
+    // Modal: the menu stays open and is held by the box.
+    frmAbout about(services_, Tag, this);
+    about.exec();
 }
 
 void frm_mainmenu::cmd_quit_Click() {

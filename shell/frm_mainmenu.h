@@ -32,6 +32,11 @@ public:
     // shows. Returns the dialog, or null for a key without one in this build.
     QWidget* openTool(const QString& key);
 
+protected:
+    // GotFocus and MouseMove of the buttons and the tab control fill the description.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public:
     QTabWidget* SSTab1 = nullptr;
     QPushButton* cmd_about = nullptr;
     QPushButton* cmd_quit = nullptr;
@@ -53,6 +58,7 @@ private:
     void addToolButton(const ToolButtonEntry& entry, QVBoxLayout& frameLayout);
     QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip);
     void applyTabOrder();
+    void cmd_about_Click();
     void cmd_quit_Click();
 
     Services& services_;

@@ -18,8 +18,10 @@ class FakeMessageBoxes : public MessageBoxes {
 public:
     int show(const MessageBoxRequest& request) override {
         shown.push_back(request);
-        if (onShow) onShow(request);
-        if (answers.empty()) return request.defaultAnswer;
+        if (onShow)
+            onShow(request);
+        if (answers.empty())
+            return request.defaultAnswer;
         const int answer = answers.front();
         answers.pop_front();
         return answer;
@@ -48,7 +50,8 @@ public:
 private:
     std::optional<QString> next(bool save, const QString& filter, int index) {
         calls.push_back({save, filter, index});
-        if (names.empty()) return std::nullopt;
+        if (names.empty())
+            return std::nullopt;
         auto name = names.front();
         names.pop_front();
         return name;

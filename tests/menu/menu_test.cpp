@@ -1,0 +1,264 @@
+// The main menu: its buttons, its two states, and the way in and out of a tool dialog.
+
+#include "shell/frm_mainmenu.h"
+#include "shell/mod_mainmenu.h"
+#include "support/fake_services.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace torvane;
+
+class MenuTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void toolButtons_data();
+    void toolButtons();
+    void tabOrderFollowsTheButtonsThenAboutQuitAndLkvcdxrip();
+    void startsOpenWithTheApplicationPath();
+    void enterAndReturnSwitchTheTwoStates();
+    void toolButtonOpensItsDialogAndClosingComesBack();
+    void accessKeyPressesTheButton();
+    void escapePressesQuit();
+    void buttonsWithoutADialogAreDisabled();
+    void labelsCarryTheirDescriptions();
+    void pointingAtAButtonDescribesIt_data();
+    void pointingAtAButtonDescribesIt();
+    void tabChangeDescribesTheTabAndSetsTabStops_data();
+    void tabChangeDescribesTheTabAndSetsTabStops();
+    void aboutAndQuitDescribeThemselves();
+
+private:
+    test::FakeServices fakes_;
+    std::unique_ptr<frm_mainmenu> menu_;
+};
+
+void MenuTest::init() {
+    menu_ = std::make_unique<frm_mainmenu>(fakes_.services, QStringLiteral("/opt/torvane"));
+    menu_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(menu_.get()));
+}
+
+void MenuTest::cleanup() {
+    menu_.reset();
+}
+
+void MenuTest::toolButtons_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("tip");
+    auto row = [](const char* key, int tab, const char* caption, const char* tip) {
+        QTest::newRow(key) << QString::fromLatin1(key) << tab << QString::fromLatin1(caption)
+                           << QString::fromLatin1(tip);
+    };
+    row("vcdimager", 0, "&vcdimager", "Use VCDIMAGER to make a S/VCD image from you MPEG.");
+    row("vcdxgen", 0, "vcdx&gen", "Use VCDXGEN to generate a simple XML.");
+    row("vcdxbuild", 0, "vcdx&build", "Use VCDXBUILD to create your S/VCD image.");
+    row("vcdxrip", 0, "vcdx&rip", "Use VCDXRIP to rip a disc image to XML and MPEG.");
+    row("cdxa2mpeg", 0, "&cdxa2mpeg",
+        "Use CDXA2MPEG to remove RIFF headers from MPEG files copied off S/VCDs.");
+    row("vcdxminfo", 0, "vcdxm&info", "Use VCDXMINFO to analyse MPEG files.");
+    row("vcddebug", 0, "vcd&debug", "Use VCDDEBUG to analyse a S/VCD disc image.");
+    row("lkvcdxbuild", 1, "lkvcdxbuild",
+        "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.");
+    row("lkvcdxrip", 1, "lkvcdxrip", "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files");
+    row("subindex", 2, "&subindices",
+        "Use Subindicies Remover to strip the subindices from your cuesheets");
+    row("regen", 2, "rege&nerator",
+        "Use Image Regenerator to recreate a CUE/BIN image if you are missing the CUE file");
+}
+
+void MenuTest::toolButtons() {
+    QFETCH(QString, key);
+    QFETCH(int, tab);
+    QFETCH(QString, caption);
+    QFETCH(QString, tip);
+    QPushButton* button = menu_->findChild<QPushButton*>(QStringLiteral("cmd_") + key);
+    QVERIFY(button);
+    QCOMPARE(button->text(), caption);
+    QCOMPARE(button->toolTip(), tip);
+    QVERIFY(!button->icon().isNull());
+    QVERIFY(menu_->SSTab1->widget(tab)->isAncestorOf(button));
+}
+
+void MenuTest::tabOrderFollowsTheButtonsThenAboutQuitAndLkvcdxrip() {
+    const QStringList expected = {
+        "SSTab1",        "cmd_vcdimager", "cmd_vcdxgen",  "cmd_vcdxbuild",   "cmd_vcdxrip",
+        "cmd_cdxa2mpeg", "cmd_vcdxminfo", "cmd_vcddebug", "cmd_lkvcdxbuild", "cmd_subindex",
+        "cmd_regen",     "cmd_about",     "cmd_quit",     "cmd_lkvcdxrip"};
+    QStringList chain;
+    QWidget* widget = menu_->SSTab1;
+    do {
+        if (expected.contains(widget->objectName()))
+            chain << widget->objectName();
+        widget = widget->nextInFocusChain();
+    } while (widget != menu_->SSTab1);
+    QCOMPARE(chain, expected);
+}
+
+void MenuTest::startsOpenWithTheApplicationPath() {
+    QCOMPARE(menu_->Tag, QStringLiteral("/opt/torvane"));
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("Torvane"));
+    QCOMPARE(menu_->version_text, QStringLiteral("Version 1.1.207"));
+    QCOMPARE(menu_->SSTab1->tabText(0), QStringLiteral("GNU VCDImager 0.7.12"));
+    QCOMPARE(menu_->SSTab1->tabText(1), QStringLiteral("lkVCDImager 5.0.7.10"));
+    QCOMPARE(menu_->SSTab1->tabText(2), QStringLiteral("Special Additional"));
+    QVERIFY(menu_->isEnabled());
+    QVERIFY(!menu_->isMinimized());
+}
+
+void MenuTest::enterAndReturnSwitchTheTwoStates() {
+    EnterToolDialog(*menu_, QStringLiteral("VCDXMINFO"));
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("VCDXMINFO - Torvane"));
+    QVERIFY(menu_->isMinimized());
+    QVERIFY(!menu_->isEnabled());
+    ReturnToMainMenu(*menu_);
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("Torvane"));
+    QVERIFY(!menu_->isMinimized());
+    QVERIFY(menu_->isEnabled());
+}
+
+void MenuTest::toolButtonOpensItsDialogAndClosingComesBack() {
+    menu_->toolButtons.at(QStringLiteral("vcdxminfo"))->click();
+    QWidget* dialog = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("frm_vcdxminfo") && widget->isVisible())
+            dialog = widget;
+    }
+    QVERIFY(dialog);
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("VCDXMINFO - Torvane"));
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("VCDXMINFO - Torvane"));
+    QVERIFY(!menu_->isEnabled());
+    QVERIFY(dialog->close());
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("Torvane"));
+    QVERIFY(menu_->isEnabled());
+    QVERIFY(!menu_->isMinimized());
+    QVERIFY(fakes_.boxes.shown.empty());  // idle: no question on the way out
+}
+
+void MenuTest::accessKeyPressesTheButton() {
+    menu_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(menu_.get()));
+    QSignalSpy clicked(menu_->toolButtons.at(QStringLiteral("vcdxminfo")), &QPushButton::clicked);
+    QTest::keyClick(menu_.get(), Qt::Key_I, Qt::AltModifier);
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(menu_->windowTitle(), QStringLiteral("VCDXMINFO - Torvane"));
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("frm_vcdxminfo"))
+            widget->close();
+    }
+}
+
+void MenuTest::escapePressesQuit() {
+    menu_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(menu_.get()));
+    QSignalSpy clicked(menu_->cmd_quit, &QPushButton::clicked);
+    QTest::keyClick(menu_.get(), Qt::Key_Escape);
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(fakes_.boxes.shown.empty());  // no question
+}
+
+void MenuTest::buttonsWithoutADialogAreDisabled() {
+    for (const auto& [key, button] : menu_->toolButtons) {
+        const bool hasDialog = menu_->openTool(key) != nullptr;
+        QCOMPARE(button->isEnabled(), hasDialog);
+        if (hasDialog) {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                if (widget != menu_.get() && widget->isVisible())
+                    widget->close();
+            }
+        }
+    }
+    QVERIFY(menu_->toolButtons.at(QStringLiteral("vcdxminfo"))->isEnabled());
+}
+
+void MenuTest::labelsCarryTheirDescriptions() {
+    QVERIFY(menu_->Label1->text().startsWith(
+        QStringLiteral("lkVCDImager started out as a \"lkVCDxBUILD\" only and was a fork of "
+                       "VCDXBUILD from VCDImager 0.7.10.  Of note,")));
+    QVERIFY(menu_->Label1->text().contains(
+        QStringLiteral("\"vanilla\" VCDImager versions.\r\rlkVCDImager was created by:\r")));
+    QCOMPARE(menu_->Label1->text().count(QLatin1Char('\r')), 5);
+    QVERIFY(menu_->Label2->text().startsWith(
+        QStringLiteral("These additional tools are not part of VCDImager itself but are useful "
+                       "additional functions.")));
+    QVERIFY(menu_->Label2->text().endsWith(QStringLiteral("and are exclusive to this program.")));
+}
+
+void MenuTest::pointingAtAButtonDescribesIt_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("begins");
+    QTest::addColumn<QString>("ends");
+    QTest::newRow("vcdxbuild") << "vcdxbuild"
+                               << "VCDXBUILD is the tool that reads the XML"
+                               << "You can then burn the CUE/BIN image to a physical disc.";
+    QTest::newRow("lkvcdxbuild: the fork clause ends a sentence")
+        << "lkVCDxBUILD"
+        << "lkVCDxBUILD is a tool that is near identical in its function to "
+           "VCDXBUILD.  This is a fork from the v0.7.10 build of VCDXBUILD by "
+        << ".  It allows ISO Level 2 path and filenames to be used on the VCD filesystem!  The "
+           "lkVCDxBUILD readme file has more details.  You use this tool to create a (S)VCD disc "
+           "image from the XML descriptor file and the referenced media files.";
+    QTest::newRow("subindex quotes \"detailed\"")
+        << "subindex"
+        << "Subindicies Remover - VCDIMAGER / VCDXBUILD / lkVCDxBUILD all create \"detailed\" "
+           "cuesheets"
+        << "then use this tool to remove the subindicies.";
+}
+
+void MenuTest::pointingAtAButtonDescribesIt() {
+    QFETCH(QString, key);
+    QFETCH(QString, begins);
+    QFETCH(QString, ends);
+    QPushButton* button = menu_->toolButtons.at(key.toLower());
+    menu_->SSTab1->setCurrentWidget(button->parentWidget()->parentWidget());
+    QTest::mouseMove(button);
+    QVERIFY2(menu_->lbl_des->text().startsWith(begins), qPrintable(menu_->lbl_des->text()));
+    QVERIFY(menu_->lbl_des->text().endsWith(ends));
+    QVERIFY(!menu_->lbl_des->text().contains(QLatin1Char('\r')));
+    QTest::mouseMove(menu_->Frame4);  // leaving restores nothing
+    QVERIFY(menu_->lbl_des->text().startsWith(begins));
+}
+
+void MenuTest::tabChangeDescribesTheTabAndSetsTabStops_data() {
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QString>("begins");
+    QTest::addColumn<QStringList>("stops");
+    QTest::newRow("0") << 0 << "GNU VCDImager 0.7.12 is a suite of open source"
+                       << QStringList{"vcdimager", "vcdxgen",  "vcdxbuild", "vcdxrip",
+                                      "vcdxminfo", "vcddebug", "cdxa2mpeg", "lkvcdxrip"};
+    QTest::newRow("1") << 1 << "lkVCDImager 5.0.7.12 consists of a series"
+                       << QStringList{"lkvcdxbuild", "lkvcdxrip"};
+    QTest::newRow("2") << 2 << "The Special Additional functions are not part of VCDImager"
+                       << QStringList{"subindex", "regen", "lkvcdxrip"};
+}
+
+void MenuTest::tabChangeDescribesTheTabAndSetsTabStops() {
+    QFETCH(int, tab);
+    QFETCH(QString, begins);
+    QFETCH(QStringList, stops);
+    menu_->SSTab1->setCurrentIndex((tab + 1) % 3);
+    menu_->SSTab1->setCurrentIndex(tab);
+    QVERIFY(menu_->lbl_des->text().startsWith(begins));
+    QCOMPARE(menu_->lbl_des->text().count(QLatin1Char('\r')), tab == 2 ? 0 : 2);
+    for (const auto& [key, button] : menu_->toolButtons)
+        QVERIFY2((button->focusPolicy() == Qt::StrongFocus) == stops.contains(key),
+                 qPrintable(key));
+}
+
+void MenuTest::aboutAndQuitDescribeThemselves() {
+    QTest::mouseMove(menu_->cmd_about);
+    QVERIFY(menu_->lbl_des->text().startsWith(
+        QStringLiteral("About this program.\r\n\r\nTorvane\r\n\r\nVersion 1.1.207\r\n\r\n")));
+    QTest::mouseMove(menu_->cmd_quit);
+    QCOMPARE(menu_->lbl_des->text(), QStringLiteral("Quit this program"));
+}
+
+QTEST_MAIN(MenuTest)
+#include "menu_test.moc"

@@ -1,0 +1,86 @@
+#pragma once
+// Helpers for dialog tests that drive a real job: a temporary application folder with
+// tiny fake tools, and the steps of a user at the console.
+
+#include "job/cconsole.h"
+#include "job/job_frame.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+#include <cerrno>
+#include <csignal>
+
+namespace torvane::test {
+
+// How long a test waits for a job step before it fails (the job itself is fast).
+constexpr int kJobStepTimeoutMs = 20000;
+
+// Makes `torvane-cmd` of this build the interpreter of job scripts.
+inline void UseBuiltInterpreter() {
+    CConsole::setInterpreterPath(QStringLiteral(TORVANE_APP_DIR "/torvane-cmd"));
+}
+
+// A temporary application folder with an empty VCDImager/ tool folder.
+class FakeAppFolder {
+public:
+    FakeAppFolder() { QDir(dir_.path()).mkpath(QStringLiteral("VCDImager")); }
+    QString path() const { return dir_.path(); }
+    QString toolFolder() const { return dir_.path() + QStringLiteral("/VCDImager/"); }
+
+    // A tool that runs `body` under /bin/sh: it sees its arguments as "$@".
+    void addTool(const QString& name, const QByteArray& body) const {
+        const QString toolPath = toolFolder() + name;
+        QFile file(toolPath);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\n" + body + "\n");
+        file.close();
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+
+    // A tool that writes its arguments, one per line, to `argsFile` and prints `output`.
+    void addRecordingTool(const QString& name, const QString& argsFile,
+                          const QByteArray& output = {}) const {
+        QByteArray body = "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
+                          QFile::encodeName(argsFile) + "'\n";
+        if (!output.isEmpty())
+            body += "printf '" + output + "'\n";
+        addTool(name, body);
+    }
+
+private:
+    QTemporaryDir dir_;
+};
+
+// Waits until the job's console shows the "pause" prompt.
+inline bool WaitForPause(JobFrame& frame) {
+    return QTest::qWaitFor(
+        [&frame] {
+            return frame.console &&
+                   frame.console->screenText().contains(QStringLiteral("Press any key"));
+        },
+        kJobStepTimeoutMs);
+}
+
+// A key typed in the console window, as the user ends a job at "pause".
+inline void PressKeyInConsole(JobFrame& frame) {
+    QTest::keyClick(frame.console->window(), Qt::Key_Space);
+}
+
+// Waits until the job is back to Idle.
+inline bool WaitForIdle(JobFrame& frame) {
+    return QTest::qWaitFor([&frame] { return frame.job_running == 0; }, kJobStepTimeoutMs);
+}
+
+inline bool ProcessIsGone(pid_t pid) {
+    return pid > 0 && ::kill(pid, 0) == -1 && errno == ESRCH;
+}
+
+inline QByteArray ReadFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace torvane::test
