@@ -8,9 +8,8 @@ namespace {
 
 template <typename Form>
 ToolDialogFactory Factory() {
-    return [](frm_mainmenu& menu, Services& services) -> QWidget* {
-        return new Form(menu, services);
-    };
+    return
+        [](frm_mainmenu& menu, Services& services) -> QWidget* { return new Form(menu, services); };
 }
 
 }  // namespace
