@@ -1,1 +1,155 @@
-// Filled in as the pieces land.
+#include "job/console_window.h"
+
+#include <QCloseEvent>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPainter>
+#include <optional>
+
+namespace torvane {
+
+namespace {
+
+// Minimum time between two repaints (about 30 a second): a tool that prints fast changes
+// the screen thousands of times a second, and nobody reads faster than this.
+constexpr int kMinRepaintIntervalMs = 33;
+
+// Space around the cells, in pixels.
+constexpr int kMargin = 2;
+
+QColor ToQColor(platform::Rgb colour) {
+    return QColor(colour.red, colour.green, colour.blue);
+}
+
+struct SpecialKeyName {
+    int qtKey;
+    platform::SpecialKey key;
+};
+
+constexpr SpecialKeyName kSpecialKeys[] = {
+    {Qt::Key_Up, platform::SpecialKey::Up},
+    {Qt::Key_Down, platform::SpecialKey::Down},
+    {Qt::Key_Left, platform::SpecialKey::Left},
+    {Qt::Key_Right, platform::SpecialKey::Right},
+    {Qt::Key_Home, platform::SpecialKey::Home},
+    {Qt::Key_End, platform::SpecialKey::End},
+    {Qt::Key_Insert, platform::SpecialKey::Insert},
+    {Qt::Key_Delete, platform::SpecialKey::Delete},
+    {Qt::Key_PageUp, platform::SpecialKey::PageUp},
+    {Qt::Key_PageDown, platform::SpecialKey::PageDown},
+};
+
+std::optional<platform::SpecialKey> SpecialKeyOf(int qtKey) {
+    for (const SpecialKeyName& name : kSpecialKeys) {
+        if (name.qtKey == qtKey)
+            return name.key;
+    }
+    return std::nullopt;
+}
+
+// Keys whose bytes are the same in every terminal mode.
+QByteArray FixedKeyBytes(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return QByteArrayLiteral("\r");
+        case Qt::Key_Backspace:
+            return QByteArrayLiteral("\x7f");
+        case Qt::Key_Tab:
+            return QByteArrayLiteral("\t");
+        case Qt::Key_Escape:
+            return QByteArrayLiteral("\x1b");
+        default:
+            return QByteArray();
+    }
+}
+
+}  // namespace
+
+ConsoleWindow::ConsoleWindow(platform::ScreenModel& screen, TypedHandler typed)
+    : QWidget(nullptr, Qt::Window), screen_(screen), typed_(std::move(typed)) {
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setFixedSize(sizeHint());
+    repaintTimer_.setSingleShot(true);
+    repaintTimer_.setInterval(kMinRepaintIntervalMs);
+    connect(&repaintTimer_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+}
+
+void ConsoleWindow::screenChanged() {
+    if (!repaintTimer_.isActive())
+        repaintTimer_.start();
+}
+
+QSize ConsoleWindow::cellSize() const {
+    const QFontMetrics metrics(font());
+    return QSize(metrics.horizontalAdvance(QLatin1Char('M')), metrics.height());
+}
+
+QSize ConsoleWindow::sizeHint() const {
+    const QSize cell = cellSize();
+    return QSize(cell.width() * screen_.columns() + 2 * kMargin,
+                 cell.height() * screen_.rows() + 2 * kMargin);
+}
+
+void ConsoleWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QColor background = ToQColor(screen_.defaultBackground());
+    painter.fillRect(rect(), background);
+    const QSize cell = cellSize();
+    const int ascent = QFontMetrics(font()).ascent();
+    for (int row = 0; row < screen_.rows(); ++row) {
+        for (int column = 0; column < screen_.columns(); ++column) {
+            const platform::Cell c = screen_.cell(row, column);
+            const QRect box(kMargin + column * cell.width(), kMargin + row * cell.height(),
+                            cell.width(), cell.height());
+            if (c.background != screen_.defaultBackground())
+                painter.fillRect(box, ToQColor(c.background));
+            if (c.text.trimmed().isEmpty())
+                continue;
+            painter.setPen(ToQColor(c.foreground));
+            painter.drawText(box.left(), box.top() + ascent, c.text);
+        }
+    }
+    // The cursor: a bar under the cell where the next character goes.
+    const platform::CursorPosition at = screen_.cursor();
+    painter.fillRect(kMargin + at.column * cell.width(), kMargin + (at.row + 1) * cell.height() - 2,
+                     cell.width(), 2, ToQColor(screen_.defaultForeground()));
+}
+
+QByteArray ConsoleWindow::bytesOfKey(const QKeyEvent& event) {
+    const int key = event.key();
+    QByteArray bytes = FixedKeyBytes(key);
+    if (!bytes.isEmpty())
+        return bytes;
+    if (const auto special = SpecialKeyOf(key))
+        return screen_.keySequence(*special);
+    const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+    if (control && key >= Qt::Key_A && key <= Qt::Key_Z)
+        return QByteArray(1, static_cast<char>(key - Qt::Key_A + 1));
+    return event.text().toUtf8();
+}
+
+void ConsoleWindow::keyPressEvent(QKeyEvent* event) {
+    const QByteArray bytes = bytesOfKey(*event);
+    if (bytes.isEmpty()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (typed_)
+        typed_(bytes);
+    event->accept();
+}
+
+void ConsoleWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+}
+
+bool ConsoleWindow::focusNextPrevChild(bool) {
+    return false;
+}
+
+}  // namespace torvane

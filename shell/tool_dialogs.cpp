@@ -1,6 +1,9 @@
 #include "shell/tool_dialogs.h"
 
+#include "additional/frm_subindex.h"
+#include "author/frm_vcdxbuild.h"
 #include "inspect/frm_vcdxminfo.h"
+#include "rip/frm_vcdxrip.h"
 
 namespace torvane {
 
@@ -17,6 +20,9 @@ ToolDialogFactory Factory() {
 const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
     static const std::map<QString, ToolDialogFactory> factories = {
         {QStringLiteral("vcdxminfo"), Factory<frm_vcdxminfo>()},
+        {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
+        {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
+        {QStringLiteral("subindex"), Factory<frm_subindex>()},
     };
     return factories;
 }

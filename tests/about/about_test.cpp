@@ -1,9 +1,10 @@
 // The program's About dialog: its texts from the application folder and its links.
 
 #include "about/frmAbout.h"
-#include "support/fake_services.h"
+#include "tests/support/fake_services.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>

@@ -50,9 +50,11 @@ public:
 private:
     std::optional<QString> next(bool save, const QString& filter, int index) {
         calls.push_back({save, filter, index});
-        if (names.empty())
+        if (names.empty() || !names.front().has_value()) {
+            if (!names.empty()) names.pop_front();
             return std::nullopt;
-        auto name = names.front();
+        }
+        const QString name = *names.front();
         names.pop_front();
         return name;
     }

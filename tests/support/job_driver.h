@@ -74,8 +74,15 @@ inline bool WaitForIdle(JobFrame& frame) {
     return QTest::qWaitFor([&frame] { return frame.job_running == 0; }, kJobStepTimeoutMs);
 }
 
+// Gone, or a zombie waiting to be reaped by whoever adopted it: it runs no more.
 inline bool ProcessIsGone(pid_t pid) {
-    return pid > 0 && ::kill(pid, 0) == -1 && errno == ESRCH;
+    if (pid <= 0) return false;
+    if (::kill(pid, 0) == -1 && errno == ESRCH) return true;
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly)) return true;
+    const QByteArray fields = stat.readAll();
+    const int afterName = fields.lastIndexOf(')');
+    return afterName >= 0 && fields.mid(afterName + 2, 1) == "Z";
 }
 
 inline QByteArray ReadFile(const QString& path) {

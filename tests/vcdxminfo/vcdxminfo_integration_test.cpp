@@ -3,8 +3,8 @@
 
 #include "inspect/frm_vcdxminfo.h"
 #include "shell/frm_mainmenu.h"
-#include "support/fake_services.h"
-#include "support/job_driver.h"
+#include "tests/support/fake_services.h"
+#include "tests/support/job_driver.h"
 
 #include <QDir>
 #include <QLineEdit>

@@ -1,0 +1,45 @@
+#pragma once
+// The console window: a top-level window that paints the console screen, cell by cell in
+// a fixed-pitch font, and turns the keys typed in it into the bytes a terminal sends.
+// It holds no state of the console: the screen model and the receiver of typed bytes
+// belong to CConsole.
+
+#include "platform/screen_model.h"
+
+#include <QByteArray>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+class QKeyEvent;
+
+namespace torvane {
+
+class ConsoleWindow : public QWidget {
+    Q_OBJECT
+public:
+    using TypedHandler = std::function<void(const QByteArray& bytes)>;
+
+    ConsoleWindow(platform::ScreenModel& screen, TypedHandler typed);
+
+    // The screen has changed: repaint soon, several changes at once.
+    void screenChanged();
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    // The console stands open until its owner drops it.
+    void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    QByteArray bytesOfKey(const QKeyEvent& event);
+    QSize cellSize() const;
+
+    platform::ScreenModel& screen_;
+    TypedHandler typed_;
+    QTimer repaintTimer_;
+};
+
+}  // namespace torvane

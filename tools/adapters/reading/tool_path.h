@@ -1,0 +1,27 @@
+#pragma once
+// Where a reading adapter finds Debian's tool, and its log-level helper.
+
+#include "tools/adapters/common/adapter_support.h"
+
+#include <string>
+
+namespace reading {
+
+// A test build of the adapters looks for the tools in a folder of the test's own.
+inline std::string ReadingToolPath(const std::string& name) {
+#ifdef TORVANE_READING_TOOL_DIR
+    return std::string(TORVANE_READING_TOOL_DIR) + name;
+#else
+    return adapter::RealToolPath(name);
+#endif
+}
+
+// Fails the adapter unless `tool` can be run.
+void RequireTool(const std::string& adapterName, const std::string& tool);
+
+// Links the log-level helper, which lies beside the adapter, into the private folder,
+// whose path the dynamic loader can take (see private_folder.cpp); returns the link.
+// Fails the adapter when the helper is missing.
+std::string LinkLogLevelHelper(const std::string& adapterName);
+
+}  // namespace reading
