@@ -1,0 +1,256 @@
+// The pure parts of the authoring adapters: reading vcdxbuild's --gui output, the split of
+// a build's output between log and console, argument files, and log line ends.
+
+#include "tools/adapters/authoring/arg_files.h"
+#include "tools/adapters/authoring/build_log.h"
+#include "tools/adapters/authoring/gui_log.h"
+#include "tools/adapters/authoring/log_output.h"
+#include "tools/adapters/authoring/tool_capture.h"
+
+#include <QTest>
+#include <cerrno>
+
+using namespace authoring;
+
+namespace {
+
+std::string S(const QByteArray& bytes) {
+    return bytes.toStdString();
+}
+
+QByteArray B(const std::string& text) {
+    return QByteArray::fromStdString(text);
+}
+
+// One event as a line of text, so that a table can hold the expected events.
+QByteArray Describe(const GuiEvent& event) {
+    switch (event.kind) {
+        case GuiEvent::Kind::Log:
+            return "log " + B(event.level) + ": " + B(event.text);
+        case GuiEvent::Kind::Progress:
+            return "progress " + B(event.operation) + " [" + B(event.id) + "] " +
+                   QByteArray::number(event.position) + "/" + QByteArray::number(event.size);
+        case GuiEvent::Kind::Plain:
+            break;
+    }
+    return "plain: " + B(event.text);
+}
+
+QByteArrayList ReadGuiOutput(const QByteArrayList& lines) {
+    QByteArrayList events;
+    GuiLogReader reader([&](const GuiEvent& event) { events << Describe(event); });
+    for (const QByteArray& line : lines)
+        reader.Feed(S(line));
+    reader.Finish();
+    return events;
+}
+
+const QByteArray kFinished =
+    R"(<log level="information">finished ok, image created with 1879 sectors [00:25:04]</log>)";
+
+}  // namespace
+
+class AdapterParsingTest : public QObject {
+    Q_OBJECT
+private slots:
+    void guiOutputIsRead_data();
+    void guiOutputIsRead();
+    void buildOutputIsSplitBetweenLogAndConsole_data();
+    void buildOutputIsSplitBetweenLogAndConsole();
+    void argumentFilesAreExpanded_data();
+    void argumentFilesAreExpanded();
+    void logLinesEndInCrLf_data();
+    void logLinesEndInCrLf();
+    void linesSurviveAnySplitOfTheOutput();
+};
+
+void AdapterParsingTest::guiOutputIsRead_data() {
+    QTest::addColumn<QByteArrayList>("lines");
+    QTest::addColumn<QByteArrayList>("events");
+    QTest::newRow("the last line of a build")
+        << QByteArrayList{kFinished}
+        << QByteArrayList{
+               "log information: finished ok, image created with 1879 sectors [00:25:04]"};
+    QTest::newRow("unescaped ampersand and angle brackets stay as written")
+        << QByteArrayList{R"(<log level="debug">adding sequence #0, a & <b> &amp; c.mpg</log>)"}
+        << QByteArrayList{"log debug: adding sequence #0, a & <b> &amp; c.mpg"};
+    QTest::newRow("a closing tag inside the message")
+        << QByteArrayList{R"(<log level="warning">file `x</log>y.mpg' is odd</log>)"}
+        << QByteArrayList{"log warning: file `x</log>y.mpg' is odd"};
+    QTest::newRow("a message over two lines is joined")
+        << QByteArrayList{R"(<log level="error">could not open `a)", R"(b.mpg'</log>)", kFinished}
+        << QByteArrayList{
+               "log error: could not open `a\nb.mpg'",
+               "log information: finished ok, image created with 1879 sectors [00:25:04]"};
+    QTest::newRow("an unclosed message ends at the next element")
+        << QByteArrayList{R"(<log level="error">broken)",
+                          R"(<progress operation="write" position="1" size="2" />)"}
+        << QByteArrayList{"log error: broken", "progress write [] 1/2"};
+    QTest::newRow("an unclosed message at the end of the output")
+        << QByteArrayList{R"(<log level="warning">cut off)"}
+        << QByteArrayList{"log warning: cut off"};
+    QTest::newRow("progress of a scan")
+        << QByteArrayList{R"(<progress operation="scan" id="sequence-00" position="6972" size="692552" />)"}
+        << QByteArrayList{"progress scan [sequence-00] 6972/692552"};
+    QTest::newRow("an id that holds quotes and attribute text")
+        << QByteArrayList{R"(<progress operation="extract" id="a" position="1" b" position="5" size="10" />)"}
+        << QByteArrayList{R"(progress extract [a" position="1" b] 5/10)"};
+    QTest::newRow("a progress size beyond 32 bits")
+        << QByteArrayList{R"(<progress operation="write" position="4294967296" size="8589934592" />)"}
+        << QByteArrayList{"progress write [] 4294967296/8589934592"};
+    QTest::newRow("lines that are no element pass as they are")
+        << QByteArrayList{"Usage: vcdxbuild [OPTION...] <xml-control-file>", "",
+                          "<log level=\"debug"}
+        << QByteArrayList{"plain: Usage: vcdxbuild [OPTION...] <xml-control-file>",
+                          "plain: ", "plain: <log level=\"debug"};
+    QTest::newRow("an unfinished progress element is plain text")
+        << QByteArrayList{R"(<progress operation="scan" id="s)"}
+        << QByteArrayList{R"(plain: <progress operation="scan" id="s)"};
+}
+
+void AdapterParsingTest::guiOutputIsRead() {
+    QFETCH(QByteArrayList, lines);
+    QFETCH(QByteArrayList, events);
+    QCOMPARE(ReadGuiOutput(lines), events);
+}
+
+void AdapterParsingTest::buildOutputIsSplitBetweenLogAndConsole_data() {
+    QTest::addColumn<QByteArrayList>("lines");
+    QTest::addColumn<QByteArrayList>("log");
+    QTest::addColumn<QByteArray>("console");
+    const QByteArray wipe(10, ' ');
+    QTest::newRow("progress goes to the console only, each figure once")
+        << QByteArrayList{R"(<progress operation="scan" id="s-0" position="0" size="200" />)",
+                          R"(<progress operation="scan" id="s-0" position="1" size="200" />)",
+                          R"(<progress operation="scan" id="s-0" position="2" size="200" />)",
+                          R"(<log level="information">writing track 1</log>)",
+                          R"(<progress operation="write" position="10" size="10" />)",
+                          kFinished}
+        << QByteArrayList{"   INFO: writing track 1",
+                          "   INFO: finished ok, image created with 1879 sectors [00:25:04]"}
+        << "\r#scan[s-0]: 0/200 ( 0%)" + wipe + "\r#scan[s-0]: 2/200 ( 1%)" + wipe +
+               "\n\r#write: 10/10 (100%)" + wipe + "\n";
+    QTest::newRow("an error is shown on the console too, on a line of its own")
+        << QByteArrayList{R"(<progress operation="write" position="5" size="10" />)",
+                          R"(<log level="error">could not stat() file `a & b.mpg'</log>)"}
+        << QByteArrayList{"**ERROR: could not stat() file `a & b.mpg'"}
+        << "\r#write: 5/10 (50%)" + wipe + "\n**ERROR: could not stat() file `a & b.mpg'\n";
+    QTest::newRow("each level gets the prefix of old; an unknown one is a warning")
+        << QByteArrayList{R"(<log level="information">i</log>)", R"(<log level="debug">d</log>)",
+                          R"(<log level="warning">w</log>)", R"(<log level="assertion">a</log>)",
+                          R"(<log level="Information">u</log>)"}
+        << QByteArrayList{"   INFO: i", "--DEBUG: d", "++ WARN: w", "!ASSERT: a", "++ WARN: u"}
+        << QByteArray("!ASSERT: a\n");
+    QTest::newRow("warnings and plain lines stay in the log")
+        << QByteArrayList{R"(<log level="warning">file `x.bin' exist already</log>)", "plain"}
+        << QByteArrayList{"++ WARN: file `x.bin' exist already", "plain"} << QByteArray();
+}
+
+void AdapterParsingTest::buildOutputIsSplitBetweenLogAndConsole() {
+    QFETCH(QByteArrayList, lines);
+    QFETCH(QByteArrayList, log);
+    QFETCH(QByteArray, console);
+    QByteArrayList logLines;
+    QByteArray consoleText;
+    BuildLogTranslator translator([&](const std::string& line) { logLines << B(line); },
+                                  [&](const std::string& text) { consoleText += B(text); });
+    for (const QByteArray& line : lines)
+        translator.Line(S(line));
+    translator.Finish();
+    QCOMPARE(logLines, log);
+    QCOMPARE(consoleText, console);
+}
+
+void AdapterParsingTest::argumentFilesAreExpanded_data() {
+    QTest::addColumn<QByteArray>("list");  // list.txt; a null array: there is none
+    QTest::addColumn<QByteArrayList>("args");
+    QTest::addColumn<QByteArrayList>("expanded");
+    QTest::addColumn<QByteArray>("error");
+    const QByteArrayList lone{"@list.txt"};
+    QTest::newRow("CR LF between lines, none after the last, in place")
+        << QByteArray("\"/in/a b.mpg\"\r\n\"/in/Ünï & c;$d.mpg\"")
+        << QByteArrayList{"-v", "@list.txt", "--last"}
+        << QByteArrayList{"-v", "/in/a b.mpg", "/in/Ünï & c;$d.mpg", "--last"} << QByteArray();
+    QTest::newRow("line ends of every kind, and empty lines")
+        << QByteArray("\"a.mpg\"\n\r\n\"b.mpg\"\r\n\r\n") << lone
+        << QByteArrayList{"a.mpg", "b.mpg"} << QByteArray();
+    QTest::newRow("blanks inside the quotes stay")
+        << QByteArray("\"  a .mpg \"") << lone << QByteArrayList{"  a .mpg "} << QByteArray();
+    QTest::newRow("a line without quotes stands as it is, an unclosed quote runs to its end")
+        << QByteArray("plain name.mpg\r\n\"open.mpg") << lone
+        << QByteArrayList{"plain name.mpg", "open.mpg"} << QByteArray();
+    QTest::newRow("text behind the closing quote is not part of the path")
+        << QByteArray("\"a.mpg\" \r\n") << lone << QByteArrayList{"a.mpg"} << QByteArray();
+    QTest::newRow("a byte-order mark is no part of the first path")
+        << QByteArray("\xEF\xBB\xBF\"a.mpg\"") << lone << QByteArrayList{"a.mpg"} << QByteArray();
+    QTest::newRow("empty quotes give nothing")
+        << QByteArray("\"\"\r\n") << lone << QByteArrayList{} << QByteArray();
+    QTest::newRow("a leading dash is not taken for a switch")
+        << QByteArray("\"-x.mpg\"\r\n\"/abs/-y.mpg\"") << lone
+        << QByteArrayList{"./-x.mpg", "/abs/-y.mpg"} << QByteArray();
+    QTest::newRow("an @ inside an argument is no argument file")
+        << QByteArray("\"a.mpg\"") << QByteArrayList{"--output-file=@list.txt", "a@list.txt"}
+        << QByteArrayList{"--output-file=@list.txt", "a@list.txt"} << QByteArray();
+    QTest::newRow("a list that cannot be read is named in the error")
+        << QByteArray() << QByteArrayList{"-v", "@list.txt"} << QByteArrayList{"-v"}
+        << QByteArray("cannot read the list file \"list.txt\": No such file or directory");
+}
+
+void AdapterParsingTest::argumentFilesAreExpanded() {
+    QFETCH(QByteArray, list);
+    QFETCH(QByteArrayList, args);
+    QFETCH(QByteArrayList, expanded);
+    QFETCH(QByteArray, error);
+    const FileReader read = [&](const std::string& path) -> std::optional<std::string> {
+        if (path != "list.txt" || list.isNull()) {
+            errno = ENOENT;
+            return std::nullopt;
+        }
+        return S(list);
+    };
+    std::vector<std::string> input;
+    for (const QByteArray& arg : args)
+        input.push_back(S(arg));
+    const Expansion expansion = ExpandArgFiles(input, read);
+    QByteArrayList got;
+    for (const std::string& arg : expansion.args)
+        got << B(arg);
+    QCOMPARE(got, expanded);
+    QCOMPARE(B(expansion.error), error);
+}
+
+void AdapterParsingTest::logLinesEndInCrLf_data() {
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("a plain line") << QByteArray("finished ok") << QByteArray("finished ok\r\n");
+    QTest::newRow("an empty line") << QByteArray() << QByteArray("\r\n");
+    QTest::newRow("a line end inside") << QByteArray("a\nb") << QByteArray("a\r\nb\r\n");
+    QTest::newRow("a CR LF inside is not doubled")
+        << QByteArray("a\r\nb") << QByteArray("a\r\nb\r\n");
+    QTest::newRow("a lone CR stays") << QByteArray("a\rb") << QByteArray("a\rb\r\n");
+}
+
+void AdapterParsingTest::logLinesEndInCrLf() {
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, written);
+    QCOMPARE(B(AsLogLine(S(line))), written);
+}
+
+// Pipe reads can end anywhere, even between CR and LF; the lines come out the same.
+void AdapterParsingTest::linesSurviveAnySplitOfTheOutput() {
+    const std::string output = "first\r\n<log level=\"x\">ü</log>\n\nlast";
+    const QByteArrayList expected{"first", "<log level=\"x\">ü</log>", "", "last"};
+    for (std::size_t split = 0; split <= output.size(); ++split) {
+        QByteArrayList lines;
+        const LineSink sink = [&](const std::string& line) { lines << B(line); };
+        std::string pending = output.substr(0, split);
+        TakeLines(pending, sink, false);
+        pending += output.substr(split);
+        TakeLines(pending, sink, false);
+        TakeLines(pending, sink, true);
+        QCOMPARE(lines, expected);
+    }
+}
+
+QTEST_GUILESS_MAIN(AdapterParsingTest)
+#include "parsing_test.moc"
