@@ -7,6 +7,7 @@
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -95,8 +96,6 @@ void frm_vcdxbuild::connectControls() {
 
 void frm_vcdxbuild::Form_Load() {
     tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
-    frame.Timer1.setEnabled(false);
-    frame.job_running = 0;
     crlf = QStringLiteral("\r\n");
 }
 
@@ -129,13 +128,8 @@ VcdxbuildInputs frm_vcdxbuild::inputs() const {
 
 void frm_vcdxbuild::cmd_rip_Click() {
     const VcdxbuildInputs in = inputs();
-    QString message = VcdxbuildValidation(in);
-    if (message.isEmpty() && AnyHoldsDoubleQuote({in.input, in.output}))
-        message = QuotedPathMessage();
-    if (!message.isEmpty()) {
-        InformationBox(services_.boxes, kInformation, message);
+    if (!GoMayProceed(services_.boxes, VcdxbuildValidation(in), {in.input, in.output}))
         return;
-    }
     const VcdxbuildJob job = BuildVcdxbuildJob(in);
     if (!QDir(job.plan.jobDir).exists()) {
         // The job runs in the input folder: without it there is no script and no log, so
@@ -174,12 +168,7 @@ void frm_vcdxbuild::report() {
 }
 
 void frm_vcdxbuild::closeEvent(QCloseEvent* event) {
-    if (!frame.Form_Unload()) {
-        event->ignore();
-        return;
-    }
-    ReturnToMainMenu(menu_);
-    event->accept();
+    UnloadToolDialog(*event, frame, menu_);
 }
 
 }  // namespace torvane

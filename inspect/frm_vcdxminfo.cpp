@@ -6,6 +6,7 @@
 #include "job/tool_form.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -88,8 +89,6 @@ void frm_vcdxminfo::buildControls() {
 
 void frm_vcdxminfo::Form_Load() {
     tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
-    frame.Timer1.setEnabled(false);
-    frame.job_running = 0;
     crlf = QStringLiteral("\r\n");
 }
 
@@ -107,13 +106,8 @@ void frm_vcdxminfo::cmd_rip_Click() {
     in.toolFolder = tool_folder;
     in.sep = QChar(kPathSeparator);
 
-    QString message = VcdxminfoValidation(in);
-    if (message.isEmpty() && AnyHoldsDoubleQuote({in.input, in.output}))
-        message = QuotedPathMessage();
-    if (!message.isEmpty()) {
-        InformationBox(services_.boxes, QStringLiteral("Information"), message);
+    if (!GoMayProceed(services_.boxes, VcdxminfoValidation(in), {in.input, in.output}))
         return;
-    }
     setControlsEnabled(false);
     frame.Start(BuildVcdxminfoJob(in));
 }
@@ -134,12 +128,7 @@ void frm_vcdxminfo::report() {
 }
 
 void frm_vcdxminfo::closeEvent(QCloseEvent* event) {
-    if (!frame.Form_Unload()) {
-        event->ignore();
-        return;
-    }
-    ReturnToMainMenu(menu_);
-    event->accept();
+    UnloadToolDialog(*event, frame, menu_);
 }
 
 }  // namespace torvane

@@ -8,13 +8,13 @@
 // ends whatever still runs in it (SIGHUP, then SIGKILL after a short grace) and closes
 // the window.
 
+#include <sys/types.h>
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
-#include <sys/types.h>
 
 class QWidget;
 

@@ -1,5 +1,6 @@
 #include "job/form_support.h"
 
+#include "job/job_paths.h"
 #include "job/services.h"
 
 #include <QKeySequence>
@@ -26,6 +27,21 @@ void MakeCancelButton(QWidget& form, QPushButton& cancel) {
         if (cancel.isEnabled())
             cancel.click();
     });
+}
+
+}  // namespace torvane
+
+namespace torvane {
+
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
+                  std::initializer_list<QString> paths) {
+    QString message = validationMessage;
+    if (message.isEmpty() && AnyHoldsDoubleQuote(paths))
+        message = QuotedPathMessage();
+    if (message.isEmpty())
+        return true;
+    InformationBox(boxes, QStringLiteral("Information"), message);
+    return false;
 }
 
 }  // namespace torvane

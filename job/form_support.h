@@ -2,6 +2,7 @@
 // Small pieces every form uses alike: the browse handlers and the cancel button.
 
 #include <QString>
+#include <initializer_list>
 
 class QLineEdit;
 class QPushButton;
@@ -19,5 +20,17 @@ void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdi
 
 // Makes Escape press `cancel` (while it is enabled), as a form's cancel button.
 void MakeCancelButton(QWidget& form, QPushButton& cancel);
+
+}  // namespace torvane
+
+namespace torvane {
+
+class MessageBoxes;
+
+// The end of every Go handler's checks: the tool's own first failing check (empty when all
+// passed), then the refusal of a path that holds a double quote. Shows the information
+// box and returns false when Go must stop; nothing else is changed.
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
+                  std::initializer_list<QString> paths);
 
 }  // namespace torvane

@@ -6,6 +6,7 @@
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -95,8 +96,6 @@ void frm_vcdxrip::connectControls() {
 
 void frm_vcdxrip::Form_Load() {
     tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
-    frame.Timer1.setEnabled(false);
-    frame.job_running = 0;
     crlf = QStringLiteral("\r\n");
 }
 
@@ -126,13 +125,8 @@ VcdxripInputs frm_vcdxrip::inputs() const {
 
 void frm_vcdxrip::cmd_rip_Click() {
     const VcdxripInputs in = inputs();
-    QString message = VcdxripValidation(in);
-    if (message.isEmpty() && AnyHoldsDoubleQuote({in.input, in.output}))
-        message = QuotedPathMessage();
-    if (!message.isEmpty()) {
-        InformationBox(services_.boxes, kInformation, message);
+    if (!GoMayProceed(services_.boxes, VcdxripValidation(in), {in.input, in.output}))
         return;
-    }
     const JobPlan plan = BuildVcdxripJob(in);
     if (!QDir(plan.jobDir).exists()) {
         // The job, its log and what the tool extracts all belong in the output folder:
@@ -168,12 +162,7 @@ void frm_vcdxrip::report() {
 }
 
 void frm_vcdxrip::closeEvent(QCloseEvent* event) {
-    if (!frame.Form_Unload()) {
-        event->ignore();
-        return;
-    }
-    ReturnToMainMenu(menu_);
-    event->accept();
+    UnloadToolDialog(*event, frame, menu_);
 }
 
 }  // namespace torvane

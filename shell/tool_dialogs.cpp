@@ -4,6 +4,9 @@
 #include "author/frm_vcdxbuild.h"
 #include "inspect/frm_vcdxminfo.h"
 #include "rip/frm_vcdxrip.h"
+#include "shell/mod_mainmenu.h"
+
+#include <QCloseEvent>
 
 namespace torvane {
 
@@ -25,6 +28,19 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
         {QStringLiteral("subindex"), Factory<frm_subindex>()},
     };
     return factories;
+}
+
+}  // namespace torvane
+
+namespace torvane {
+
+void UnloadToolDialog(QCloseEvent& event, JobFrame& frame, frm_mainmenu& menu) {
+    if (!frame.Form_Unload()) {
+        event.ignore();
+        return;
+    }
+    ReturnToMainMenu(menu);
+    event.accept();
 }
 
 }  // namespace torvane

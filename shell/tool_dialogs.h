@@ -18,3 +18,15 @@ using ToolDialogFactory = std::function<QWidget*(frm_mainmenu&, Services&)>;
 const std::map<QString, ToolDialogFactory>& ToolDialogFactories();
 
 }  // namespace torvane
+
+class QCloseEvent;
+
+namespace torvane {
+
+class JobFrame;
+
+// Form_Unload of a tool dialog that runs a job: the frame's guard (a running job asks
+// first; No keeps the dialog), then back to the main menu.
+void UnloadToolDialog(QCloseEvent& event, JobFrame& frame, frm_mainmenu& menu);
+
+}  // namespace torvane

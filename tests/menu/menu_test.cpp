@@ -230,7 +230,8 @@ void MenuTest::pointingAtAButtonDescribesIt() {
     QApplication::sendEvent(button, &leave);  // leaving restores nothing
     QVERIFY(menu_->lbl_des->text().startsWith(begins));
 
-    if (!button->isEnabled()) return;  // a button without its dialog takes no focus
+    if (!button->isEnabled())
+        return;  // a button without its dialog takes no focus
     menu_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(menu_.get()));
     menu_->cmd_quit->setFocus(Qt::TabFocusReason);

@@ -51,7 +51,8 @@ private:
     std::optional<QString> next(bool save, const QString& filter, int index) {
         calls.push_back({save, filter, index});
         if (names.empty() || !names.front().has_value()) {
-            if (!names.empty()) names.pop_front();
+            if (!names.empty())
+                names.pop_front();
             return std::nullopt;
         }
         const QString name = *names.front();

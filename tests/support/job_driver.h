@@ -76,10 +76,13 @@ inline bool WaitForIdle(JobFrame& frame) {
 
 // Gone, or a zombie waiting to be reaped by whoever adopted it: it runs no more.
 inline bool ProcessIsGone(pid_t pid) {
-    if (pid <= 0) return false;
-    if (::kill(pid, 0) == -1 && errno == ESRCH) return true;
+    if (pid <= 0)
+        return false;
+    if (::kill(pid, 0) == -1 && errno == ESRCH)
+        return true;
     QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly)) return true;
+    if (!stat.open(QIODevice::ReadOnly))
+        return true;
     const QByteArray fields = stat.readAll();
     const int afterName = fields.lastIndexOf(')');
     return afterName >= 0 && fields.mid(afterName + 2, 1) == "Z";
