@@ -121,7 +121,7 @@ void frmAbout::Form_Load(const QString& appPath) {
                                 .arg(TORVANE_VERSION_MINOR)
                                 .arg(TORVANE_VERSION_REVISION);
     setWindowTitle(QStringLiteral("About ") + QStringLiteral("Torvane"));
-    lblVersion->setText(QStringLiteral("Version ") + version + QStringLiteral("\r\n") +
+    lblVersion->setText(QStringLiteral("Version ") + version + QStringLiteral("\n") +
                         QStringLiteral("Copyright (C) 2003 the makers of Torvane"));
     build_date = QStringLiteral("Saturday, 1 February 2003");
     // A missing text shows as empty; the others still work.

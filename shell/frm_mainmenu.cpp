@@ -1,6 +1,7 @@
 #include "shell/frm_mainmenu.h"
 
 #include "about/frmAbout.h"
+#include "job/desktop_services.h"
 #include "shell/mod_mainmenu.h"
 #include "shell/tool_descriptions.h"
 #include "shell/tool_dialogs.h"
@@ -159,8 +160,8 @@ void frm_mainmenu::Form_Load(const QString& appPath) {
                        .arg(TORVANE_VERSION_MAJOR)
                        .arg(TORVANE_VERSION_MINOR)
                        .arg(TORVANE_VERSION_REVISION);
-    Label1->setText(Label1Text());
-    Label2->setText(Label2Text());
+    Label1->setText(DisplayText(Label1Text()));
+    Label2->setText(DisplayText(Label2Text()));
 }
 
 QWidget* frm_mainmenu::buildTab(const FrameNames& frames, int tab) {
@@ -252,7 +253,7 @@ bool frm_mainmenu::eventFilter(QObject* watched, QEvent* event) {
         if (type == QEvent::FocusIn || type == QEvent::FocusOut)
             ShowTabDescription(*this);
     } else if (watched == cmd_about && pointedAt) {
-        lbl_des->setText(AboutDescription(version_text));
+        lbl_des->setText(DisplayText(AboutDescription(version_text)));
     } else if (watched == cmd_quit && pointedAt) {
         lbl_des->setText(QuitDescription());
     } else if (pointedAt) {

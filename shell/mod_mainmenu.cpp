@@ -1,5 +1,6 @@
 #include "shell/mod_mainmenu.h"
 
+#include "job/desktop_services.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/tool_descriptions.h"
 
@@ -38,7 +39,7 @@ int TabStopTab(const QString& key) {
 void ShowToolDescription(frm_mainmenu& menu, const QString& key) {
     const QString text = ToolDescription(key);
     if (!text.isNull())
-        menu.lbl_des->setText(text);
+        menu.lbl_des->setText(DisplayText(text));
 }
 
 void ShowTabDescription(frm_mainmenu& menu) {
@@ -48,7 +49,7 @@ void ShowTabDescription(frm_mainmenu& menu) {
             continue;
         button->setFocusPolicy(TabStopTab(key) == tab ? Qt::StrongFocus : Qt::ClickFocus);
     }
-    menu.lbl_des->setText(TabDescription(tab));
+    menu.lbl_des->setText(DisplayText(TabDescription(tab)));
 }
 
 }  // namespace torvane

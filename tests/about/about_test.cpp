@@ -50,7 +50,7 @@ void AboutTest::opensOnTheDescriptionFollowedByTheBuildDate() {
     QCOMPARE(about.Text1->toPlainText(),
              QStringLiteral("description text\nSaturday, 1 February 2003"));
     QVERIFY(about.Text1->isReadOnly());
-    QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\r\n")));
+    QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
 }
 
 void AboutTest::eachButtonShowsItsFile_data() {
