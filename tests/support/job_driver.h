@@ -4,6 +4,9 @@
 
 #include "job/cconsole.h"
 #include "job/job_frame.h"
+#include "tests/support/fake_services.h"
+
+#include <QAbstractButton>
 
 #include <QDir>
 #include <QFile>
@@ -91,6 +94,35 @@ inline bool ProcessIsGone(pid_t pid) {
 inline QByteArray ReadFile(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Names of the listed controls of `form` that are enabled, in the list's order.
+inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
+    QStringList enabled;
+    for (const QString& name : names) {
+        const QWidget* control = form.findChild<QWidget*>(name);
+        if (control && control->isEnabled())
+            enabled << name;
+    }
+    return enabled;
+}
+
+// The arguments a recording tool wrote, one a line.
+inline QStringList RecordedArguments(const QString& argsFile) {
+    QStringList args = QString::fromUtf8(ReadFile(argsFile)).split(QLatin1Char('\n'));
+    args.removeLast();  // after the last line end
+    return args;
+}
+
+// Go, the key at "pause" and `answer` to the report's box; true once the job is idle again.
+inline bool RunJobToIdle(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes& boxes,
+                         int answer) {
+    go.click();
+    if (!WaitForPause(frame))
+        return false;
+    boxes.answers = {answer};
+    PressKeyInConsole(frame);
+    return WaitForIdle(frame);
 }
 
 }  // namespace torvane::test

@@ -132,27 +132,15 @@ void VcdxripDialogTest::choosePaths(const QString& input, const QString& output)
 }
 
 QStringList VcdxripDialogTest::enabledControls() const {
-    QStringList names;
-    for (const QString& name : kAllControls) {
-        if (dialog_->findChild<QWidget*>(name)->isEnabled())
-            names << name;
-    }
-    return names;
+    return EnabledControls(*dialog_, kAllControls);
 }
 
 QStringList VcdxripDialogTest::toolArguments() const {
-    QStringList args =
-        QString::fromUtf8(ReadFile(work_->path() + QStringLiteral("/args.txt"))).split('\n');
-    args.removeLast();  // after the last line end
-    return args;
+    return RecordedArguments(work_->path() + QStringLiteral("/args.txt"));
 }
 
 void VcdxripDialogTest::runJobToIdle(int answer) {
-    dialog_->cmd_rip->click();
-    QVERIFY(WaitForPause(dialog_->frame));
-    fakes_.boxes.answers = {answer};
-    PressKeyInConsole(dialog_->frame);
-    QVERIFY(WaitForIdle(dialog_->frame));
+    QVERIFY(RunJobToIdle(*dialog_->cmd_rip, dialog_->frame, fakes_.boxes, answer));
 }
 
 void VcdxripDialogTest::browseOffersImagesThenDescriptors() {
