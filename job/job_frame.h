@@ -43,7 +43,6 @@ public:
     bool Form_Unload();
 
     bool running() const { return job_running != 0; }
-    const QString& consoleTitle() const { return consoleTitle_; }
 
     // The fields of the frame, named as the dialogs name them.
     std::unique_ptr<CConsole> console;

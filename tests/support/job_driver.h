@@ -125,4 +125,12 @@ inline bool RunJobToIdle(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes&
     return WaitForIdle(frame);
 }
 
+// Closes a tool dialog as a test ends, answering Yes should a job still run.
+inline void CloseDialog(QWidget* dialog, FakeMessageBoxes& boxes) {
+    if (!dialog)
+        return;
+    boxes.answers.push_back(vbYes);
+    dialog->close();
+}
+
 }  // namespace torvane::test

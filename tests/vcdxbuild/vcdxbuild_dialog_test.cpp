@@ -128,10 +128,7 @@ void VcdxbuildDialogTest::init() {
 }
 
 void VcdxbuildDialogTest::cleanup() {
-    if (dialog_) {
-        fakes_.boxes.answers.push_back(vbYes);
-        dialog_->close();
-    }
+    CloseDialog(dialog_, fakes_.boxes);
     menu_.reset();
 }
 

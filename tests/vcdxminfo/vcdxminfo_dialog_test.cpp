@@ -54,10 +54,7 @@ void VcdxminfoDialogTest::init() {
 }
 
 void VcdxminfoDialogTest::cleanup() {
-    if (dialog_) {
-        fakes_.boxes.answers.push_back(vbYes);
-        dialog_->close();
-    }
+    CloseDialog(dialog_, fakes_.boxes);
     menu_.reset();
 }
 

@@ -109,10 +109,7 @@ void VcdxripDialogTest::init() {
 }
 
 void VcdxripDialogTest::cleanup() {
-    if (dialog_) {
-        fakes_.boxes.answers.push_back(vbYes);
-        dialog_->close();
-    }
+    CloseDialog(dialog_, fakes_.boxes);
     menu_.reset();
 }
 
