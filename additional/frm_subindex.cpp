@@ -1,6 +1,7 @@
 #include "additional/frm_subindex.h"
 
 #include "job/form_support.h"
+#include "job/job_paths.h"
 #include "job/tool_form.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
@@ -87,6 +88,12 @@ void frm_subindex::cmd_rip_Click() {
     if (output.isEmpty()) {
         InformationBox(services_.boxes, kInformation,
                        QStringLiteral("You have not set a destination CUE file to save!"));
+        return;
+    }
+    const QString folderMessage =
+        UnusableFolderMessage(SplitOutputPath(output, QChar(kPathSeparator)).output_dir);
+    if (!folderMessage.isEmpty()) {
+        InformationBox(services_.boxes, kInformation, folderMessage);
         return;
     }
     if (input == output && !overwriteConfirmed(output))

@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -128,15 +127,11 @@ VcdxbuildInputs frm_vcdxbuild::inputs() const {
 
 void frm_vcdxbuild::cmd_rip_Click() {
     const VcdxbuildInputs in = inputs();
-    if (!GoMayProceed(services_.boxes, VcdxbuildValidation(in), {in.input, in.output}))
-        return;
+    // The job, its script and its log belong in the input folder, the image in its own.
     const VcdxbuildJob job = BuildVcdxbuildJob(in);
-    if (!QDir(job.plan.jobDir).exists()) {
-        // The job runs in the input folder: without it there is no script and no log, so
-        // the job fails before it starts.
-        InformationBox(services_.boxes, kInformation, BuildVcdxbuildReport(std::nullopt).text);
+    if (!GoMayProceed(services_.boxes, VcdxbuildValidation(in), {in.input, in.output},
+                      {job.plan.jobDir, SplitOutputPath(in.output, in.sep).output_dir}))
         return;
-    }
     if (in.cueBin)
         cue_path = job.cue_path;
     setControlsEnabled(false);

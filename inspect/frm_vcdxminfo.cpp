@@ -106,10 +106,12 @@ void frm_vcdxminfo::cmd_rip_Click() {
     in.toolFolder = tool_folder;
     in.sep = QChar(kPathSeparator);
 
-    if (!GoMayProceed(services_.boxes, VcdxminfoValidation(in), {in.input, in.output}))
+    const JobPlan plan = BuildVcdxminfoJob(in);
+    if (!GoMayProceed(services_.boxes, VcdxminfoValidation(in), {in.input, in.output},
+                      {plan.jobDir}))
         return;
     setControlsEnabled(false);
-    frame.Start(BuildVcdxminfoJob(in));
+    frame.Start(plan);
 }
 
 void frm_vcdxminfo::setControlsEnabled(bool enabled) {

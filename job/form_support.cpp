@@ -34,10 +34,14 @@ void MakeCancelButton(QWidget& form, QPushButton& cancel) {
 namespace torvane {
 
 bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
-                  std::initializer_list<QString> paths) {
+                  std::initializer_list<QString> paths, std::initializer_list<QString> folders) {
     QString message = validationMessage;
-    if (message.isEmpty() && AnyHoldsDoubleQuote(paths))
-        message = QuotedPathMessage();
+    if (message.isEmpty())
+        message = UnsafePathMessage(paths);
+    for (const QString& folder : folders) {
+        if (message.isEmpty())
+            message = UnusableFolderMessage(folder);
+    }
     if (message.isEmpty())
         return true;
     InformationBox(boxes, QStringLiteral("Information"), message);

@@ -28,9 +28,10 @@ namespace torvane {
 class MessageBoxes;
 
 // The end of every Go handler's checks: the tool's own first failing check (empty when all
-// passed), then the refusal of a path that holds a double quote. Shows the information
-// box and returns false when Go must stop; nothing else is changed.
+// passed), then the refusal of a path that cannot be carried through a job script, then
+// that of a folder the job writes into (`folders`) that does not exist or cannot be written. Shows
+// the information box and returns false when Go must stop; nothing else is changed.
 bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
-                  std::initializer_list<QString> paths);
+                  std::initializer_list<QString> paths, std::initializer_list<QString> folders);
 
 }  // namespace torvane

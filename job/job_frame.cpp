@@ -19,11 +19,20 @@ void DeleteFile(const QString& path) {
         QFile::remove(path);
 }
 
-// Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
-void WriteScript(const QString& path, const QString& text) {
+// Raw bytes, nothing added: no byte-order mark, no end-of-file mark. Returns the system's
+// reason when the script is not whole on disk.
+QString WriteScript(const QString& path, const QString& text) {
+    const QByteArray bytes = text.toLocal8Bit();
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(text.toLocal8Bit());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+        file.write(bytes) == bytes.size() && file.flush()) {
+        file.close();
+        if (file.error() == QFileDevice::NoError)
+            return {};
+    }
+    const QString reason = file.errorString();
+    file.remove();
+    return reason;
 }
 
 }  // namespace
@@ -39,21 +48,29 @@ JobFrame::JobFrame(QWidget& dialog, Services& services, QString consoleTitle, Ho
 
 JobFrame::~JobFrame() = default;
 
-void JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
+bool JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
     script_path.clear();
     script_path = plan.scriptPath;
     log_path.clear();
     log_path = plan.logPath;
     extraFiles_ = extraFiles;
-    // From the change of directory on, failures are passed over: a job that cannot run
-    // shows in its log, or as a console that never reaches the end marker.
+    // The job folder was checked at Go; a job that then fails shows in its log.
     QDir::setCurrent(plan.jobDir);
     DeleteFile(script_path);
-    WriteScript(script_path, JoinScriptLines(plan.scriptLines));
+    const QString reason = WriteScript(script_path, JoinScriptLines(plan.scriptLines));
+    if (!reason.isEmpty()) {
+        // No script, no job: the console would wait forever for an end marker.
+        InformationBox(services_.boxes, QStringLiteral("Information"),
+                       QStringLiteral("The job script could not be written:\r\r") +
+                           ShownPath(script_path) + QStringLiteral("\r\r") + reason);
+        abandonJob();
+        return false;
+    }
     Timer1.setEnabled(true);
     Timer1.Tag = QStringLiteral("0");
     Timer1.setInterval(kFirstTickMs);
     job_running = -1;
+    return true;
 }
 
 void JobFrame::Timer1_Timer() {
@@ -77,7 +94,9 @@ void JobFrame::startConsole() {
     console->setTitle(consoleTitle_);
     console->setForeColor(2);
     console->setForeIntense(true);
-    console->StartApp(QStringLiteral("run.bat"));
+    // By its full path: only the script just written may run, never one of the same name
+    // that the interpreter would find elsewhere.
+    console->StartApp(script_path);
     dialog_.showMinimized();
     Timer1.Tag = QStringLiteral("1");
     Timer1.setInterval(kPollMs);

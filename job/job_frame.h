@@ -35,7 +35,9 @@ public:
     // Steps 3 to 10 of the job start: script and log paths, the change of directory,
     // the script written as raw bytes, Timer1 armed with Tag "0" and interval 100.
     // `extraFiles` are deleted with the script at the end of the job (the list file).
-    void Start(const JobPlan& plan, const QStringList& extraFiles = {});
+    // A script that cannot be written is reported in a box, the controls come back, no job
+    // starts, and it returns false.
+    bool Start(const JobPlan& plan, const QStringList& extraFiles = {});
 
     // Form_Unload's guard. While a job runs it asks whether to quit; No keeps everything
     // as it is and returns false. Yes ends the job: the console is dropped (its processes

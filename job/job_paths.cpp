@@ -1,5 +1,9 @@
 #include "job/job_paths.h"
 
+#include <unistd.h>
+#include <QFile>
+#include <QFileInfo>
+
 namespace torvane {
 
 OutputSplit SplitOutputPath(const QString& path, QChar sep) {
@@ -36,17 +40,50 @@ QString RuleLine(const QString& bannerLine) {
 
 namespace torvane {
 
-bool AnyHoldsDoubleQuote(const QStringList& paths) {
-    for (const QString& path : paths) {
-        if (path.contains(QLatin1Char('"')))
-            return true;
+QString UnsafePathReason(const QString& path) {
+    if (path.contains(QLatin1Char('"')))
+        return QStringLiteral("It holds a double quote.");
+    for (QChar c : path) {
+        if (c.category() == QChar::Other_Control)
+            return QStringLiteral(
+                "It holds a control character (a line break, a tab or an "
+                "escape character).");
     }
-    return false;
+    if (path.endsWith(QLatin1Char('\\')))
+        return QStringLiteral("It ends in a backslash.");
+    return {};
 }
 
-QString QuotedPathMessage() {
-    return QStringLiteral("A file name that holds a double quote cannot be passed to the tool.") +
-           QLatin1Char('\r') + QStringLiteral("Please rename the file or choose another one.");
+QString UnsafePathMessage(const QStringList& paths) {
+    for (const QString& path : paths) {
+        const QString reason = UnsafePathReason(path);
+        if (!reason.isEmpty())
+            return QStringLiteral("This file name cannot be passed to the tool:\r\r") +
+                   ShownPath(path) + QStringLiteral("\r\r") + reason +
+                   QStringLiteral("\rPlease rename the file or choose another one.");
+    }
+    return {};
+}
+
+QString UnusableFolderMessage(const QString& folder) {
+    const QString where = folder.isEmpty() ? QStringLiteral(".") : folder;
+    if (!QFileInfo(where).isDir())
+        return QStringLiteral("The folder does not exist:\r\r") + ShownPath(folder) +
+               QStringLiteral("\r\rPlease choose a folder that exists.");
+    // Asked of the system for this process, as the job's own writes will be.
+    if (::access(QFile::encodeName(where).constData(), W_OK | X_OK) != 0)
+        return QStringLiteral("The folder cannot be written to:\r\r") + ShownPath(folder) +
+               QStringLiteral("\r\rPlease choose a folder that you may write to.");
+    return {};
+}
+
+QString ShownPath(const QString& path) {
+    QString shown = path;
+    for (QChar& c : shown) {
+        if (c.category() == QChar::Other_Control)
+            c = QLatin1Char('?');
+    }
+    return shown;
 }
 
 }  // namespace torvane

@@ -36,9 +36,21 @@ QString RuleLine(const QString& bannerLine);
 
 namespace torvane {
 
-// A path that holds a double quote cannot stand between the quotes of a command line.
-bool AnyHoldsDoubleQuote(const QStringList& paths);
-QString QuotedPathMessage();
+// Why `path` cannot be carried safely through a job script, or empty when it can: a double
+// quote cannot stand between the script's quotes, a control character would split the
+// script's lines or draw on the console's screen (the end marker included), and a trailing
+// backslash would turn the closing quote into a literal one.
+QString UnsafePathReason(const QString& path);
+
+// The refusal of the first path of `paths` that cannot be carried, or empty.
+QString UnsafePathMessage(const QStringList& paths);
+
+// The refusal of a folder that a job or a tool writes into when it does not exist or
+// cannot be written, or empty when it can be used.
+QString UnusableFolderMessage(const QString& folder);
+
+// The path as a message box can show it: control characters become '?'.
+QString ShownPath(const QString& path);
 
 }  // namespace torvane
 

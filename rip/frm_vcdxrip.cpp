@@ -10,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -125,15 +124,10 @@ VcdxripInputs frm_vcdxrip::inputs() const {
 
 void frm_vcdxrip::cmd_rip_Click() {
     const VcdxripInputs in = inputs();
-    if (!GoMayProceed(services_.boxes, VcdxripValidation(in), {in.input, in.output}))
-        return;
+    // The job, its log and what the tool extracts all belong in the output folder.
     const JobPlan plan = BuildVcdxripJob(in);
-    if (!QDir(plan.jobDir).exists()) {
-        // The job, its log and what the tool extracts all belong in the output folder:
-        // without it the job fails before it starts.
-        InformationBox(services_.boxes, kInformation, BuildVcdxripReport(std::nullopt).text);
+    if (!GoMayProceed(services_.boxes, VcdxripValidation(in), {in.input, in.output}, {plan.jobDir}))
         return;
-    }
     setControlsEnabled(false);
     frame.Start(plan);
 }

@@ -125,6 +125,20 @@ inline bool RunJobToIdle(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes&
     return WaitForIdle(frame);
 }
 
+// Go refused by `boxes`' one information box, whose text begins with `message`: no job,
+// no file written in `folder`, Go still usable.
+inline void ExpectRefusal(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes& boxes,
+                          const QString& message, const QString& folder) {
+    boxes.shown.clear();
+    go.click();
+    QCOMPARE(boxes.shown.size(), 1u);
+    QCOMPARE(boxes.shown[0].title, QStringLiteral("Information"));
+    QVERIFY2(boxes.shown[0].text.startsWith(message), qPrintable(boxes.shown[0].text));
+    QVERIFY(!frame.running() && !frame.Timer1.Enabled());
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
+    QVERIFY(go.isEnabled());
+}
+
 // Closes a tool dialog as a test ends, answering Yes should a job still run.
 inline void CloseDialog(QWidget* dialog, FakeMessageBoxes& boxes) {
     if (!dialog)

@@ -13,9 +13,6 @@ private slots:
     void commandLine();
     void script_data();
     void script();
-    void validation_data();
-    void validation();
-    void reportKeepsItsLineBreaks();
 };
 
 namespace {
@@ -116,36 +113,6 @@ void VcdxminfoBuilderTest::script() {
     QCOMPARE(plan.jobDir, jobDir);
     QCOMPARE(plan.scriptPath, jobDir + QStringLiteral("run.bat"));
     QVERIFY(plan.logPath.isEmpty());
-}
-
-void VcdxminfoBuilderTest::validation_data() {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("both empty: output first")
-        << QString() << QString() << QStringLiteral("You have not set an output file!");
-    QTest::newRow("no input") << QString() << QStringLiteral("/o/r.xml")
-                              << QStringLiteral("You have not loaded an input XML file!");
-    QTest::newRow("no output") << QStringLiteral("/i/c.mpg") << QString()
-                               << QStringLiteral("You have not set an output file!");
-    QTest::newRow("both set") << QStringLiteral("/i/c.mpg") << QStringLiteral("/o/r.xml")
-                              << QString();
-}
-
-void VcdxminfoBuilderTest::validation() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QString, message);
-    VcdxminfoInputs in = Posix(true, true, false);
-    in.input = input;
-    in.output = output;
-    QCOMPARE(VcdxminfoValidation(in), message);
-}
-
-void VcdxminfoBuilderTest::reportKeepsItsLineBreaks() {
-    QCOMPARE(
-        VcdxminfoReportText(QStringLiteral("/out/r.xml")),
-        QStringLiteral("Finished!\r\rDo you want to open the XML file now?\r\n\r\n/out/r.xml"));
 }
 
 QTEST_APPLESS_MAIN(VcdxminfoBuilderTest)

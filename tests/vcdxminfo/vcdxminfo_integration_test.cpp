@@ -39,15 +39,18 @@ void VcdxminfoIntegrationTest::initTestCase() {
 void VcdxminfoIntegrationTest::reportIsWritten_data() {
     QTest::addColumn<QString>("inputName");
     QTest::addColumn<QString>("outputName");
-    QTest::newRow("plain") << QStringLiteral("in/clip.mpg") << QStringLiteral("out/report.xml");
+    QTest::addColumn<int>("answer");  // to "open the XML file now?"
+    QTest::newRow("plain") << "in/clip.mpg"
+                           << "out/report.xml" << vbYes;
     QTest::newRow("blanks, shell characters, non-ASCII")
-        << QStringLiteral("in dir & co; $HOME/Ünïcødé clip.mpg")
-        << QStringLiteral("out $dir; & <x>/-rapport été.xml");
+        << "in dir & co; $HOME/Ünïcødé clip.mpg"
+        << "out $dir; & <x>/-rapport été.xml" << vbNo;
 }
 
 void VcdxminfoIntegrationTest::reportIsWritten() {
     QFETCH(QString, inputName);
     QFETCH(QString, outputName);
+    QFETCH(int, answer);
     const QString input = work_.path() + QLatin1Char('/') + inputName;
     const QString output = work_.path() + QLatin1Char('/') + outputName;
     QVERIFY(QDir().mkpath(QFileInfo(input).path()));
@@ -64,7 +67,7 @@ void VcdxminfoIntegrationTest::reportIsWritten() {
     dialog->cmd_output->click();
     dialog->cmd_rip->click();
     QVERIFY(WaitForPause(dialog->frame));
-    fakes.boxes.answers = {vbNo};
+    fakes.boxes.answers = {answer};
     PressKeyInConsole(dialog->frame);
     QVERIFY(WaitForIdle(dialog->frame));
 
@@ -72,7 +75,11 @@ void VcdxminfoIntegrationTest::reportIsWritten() {
     QVERIFY2(report.startsWith("<mpeg-info src="), report.left(200).constData());
     QVERIFY(report.contains("<horizontal-size>352</horizontal-size>"));
     QCOMPARE(fakes.boxes.shown.size(), 1u);
-    QVERIFY(fakes.boxes.shown[0].text.endsWith(output));
+    QCOMPARE(fakes.boxes.shown[0].title, QStringLiteral("Question"));
+    QCOMPARE(fakes.boxes.shown[0].text,
+             "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output);
+    QCOMPARE(fakes.desktop.viewed, answer == vbYes ? QStringList{output} : QStringList());
+    QVERIFY(dialog->cmd_rip->isEnabled() && !QFile::exists(QFileInfo(output).path() + "/run.bat"));
     QVERIFY(dialog->close());
 }
 
