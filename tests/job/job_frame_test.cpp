@@ -44,6 +44,7 @@ void JobFrameTest::init() {
                               events_ << QStringLiteral("report console=%1 minimised=%2")
                                              .arg(bool(frame_->console))
                                              .arg(dialog_->isMinimized());
+                              QTest::qWait(600);  // a modal box runs the event loop
                           },
                           [this] { events_ << QStringLiteral("enable"); }};
     frame_ = std::make_unique<JobFrame>(*dialog_, fakes_.services,
@@ -94,7 +95,6 @@ void JobFrameTest::aJobGoesFromGoToReportOnce() {
     // The key ends it: one report, console gone, still minimised; then idle and clean.
     PressKeyInConsole(*frame_);
     QVERIFY(WaitForIdle(*frame_));
-    QTest::qWait(600);  // more ticks would report again
     QCOMPARE(events_, (QStringList{"report console=0 minimised=1", "enable"}));
     QVERIFY(!frame_->Timer1.Enabled());
     QCOMPARE(frame_->Timer1.Tag, QStringLiteral("0"));
