@@ -44,7 +44,6 @@ void JobFrameTest::init() {
                               events_ << QStringLiteral("report console=%1 minimised=%2")
                                              .arg(bool(frame_->console))
                                              .arg(dialog_->isMinimized());
-                              QTest::qWait(600);  // a modal box runs the event loop
                           },
                           [this] { events_ << QStringLiteral("enable"); }};
     frame_ = std::make_unique<JobFrame>(*dialog_, fakes_.services,
