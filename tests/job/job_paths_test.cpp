@@ -64,6 +64,10 @@ void JobPathsTest::unusableFolders() {
              QStringLiteral("The folder does not exist:\r\r") + missing +
                  QStringLiteral("\r\rPlease choose a folder that exists."));
     QVERIFY(UnusableFolderMessage(file.fileName()).startsWith("The folder does not exist"));
+    // procfs refuses writes even to root, as a read-only folder refuses them to a user.
+    QCOMPARE(UnusableFolderMessage(QStringLiteral("/proc/self/")),
+             QStringLiteral("The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a "
+                            "folder that you may write to."));
 }
 
 QTEST_MAIN(JobPathsTest)

@@ -40,6 +40,9 @@ void VcdxminfoDialogTest::goRefusesInOrder_data() {
     QTest::newRow("an output folder that does not exist") << "/m/a.mpg"
                                                           << "gone/r.xml"
                                                           << "The folder does not exist:";
+    QTest::newRow("an output folder that cannot be written") << "/m/a.mpg"
+                                                             << "/proc/self/r.xml"
+                                                             << "The folder cannot be written to:";
 }
 
 void VcdxminfoDialogTest::goRefusesInOrder() {
@@ -50,7 +53,8 @@ void VcdxminfoDialogTest::goRefusesInOrder() {
     FakeServices fakes;
     frm_mainmenu menu(fakes.services, work.path());
     auto* dialog = qobject_cast<frm_vcdxminfo*>(menu.openTool(QStringLiteral("vcdxminfo")));
-    fakes.files.names = {input, output.isEmpty() ? output : work.filePath(output)};
+    fakes.files.names = {
+        input, output.isEmpty() || output.startsWith('/') ? output : work.filePath(output)};
     dialog->cmd_input->click();
     dialog->cmd_output->click();
     ExpectRefusal(*dialog->cmd_rip, dialog->frame, fakes.boxes, message, work.path());
