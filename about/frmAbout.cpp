@@ -1,10 +1,11 @@
 #include "about/frmAbout.h"
 
 #include "about/mod_browser32.h"
+#include "about/text_pane.h"
 #include "job/services.h"
 #include "shell/mod_general.h"
 
-#include <QFontDatabase>
+#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,6 +18,10 @@
 namespace torvane {
 
 namespace {
+
+// The texts are written to lines of at most 74 characters, and the pane shows that many.
+constexpr int kPaneColumns = 74;
+constexpr int kPaneLines = 16;
 
 const char* const kFiles[] = {"description.txt", "requirements.txt", "changelog.txt",
                               "vcdimager.txt",   "license.txt",      "author.txt"};
@@ -59,13 +64,14 @@ frmAbout::frmAbout(Services& services, const QString& appPath, QWidget* parent)
                          "Update to the newest version and read the latest news");
     Command1 = Button(this, "Command1", "E-mail", "Click here to e-mail the author");
 
-    Text1 = new QPlainTextEdit(this);
-    Text1->setObjectName(QStringLiteral("Text1"));
-    Text1->setReadOnly(true);
-    Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    Text1->setMinimumSize(520, 260);
+    Text1 = NewTextPane(this, "Text1", kPaneColumns, kPaneLines);
+    // A sunken rule between the pane and the links: a grey line over a white one.
+    auto* line = new QFrame(this);
+    line->setObjectName(QStringLiteral("Line1"));
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
 
-    // Enter and Escape both press the mail button; only OK and the title bar close.
+    // Enter with no button focused and Escape press the mail button (keyPressEvent).
     Command1->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmd_donate, &QPushButton::clicked, this,
@@ -94,13 +100,16 @@ frmAbout::frmAbout(Services& services, const QString& appPath, QWidget* parent)
     layout->addLayout(head);
     layout->addLayout(textButtons);
     layout->addWidget(Text1);
+    layout->addWidget(line);
     layout->addLayout(links);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 
     QWidget* order[] = {cmdOK,       cmd_description, cmd_requirements, cmd_changelog,
                         cmd_license, cmd_vcdimager,   cmd_author,       cmd_donate,
                         cmd_website, Command1};
     for (size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
+    cmdOK->setFocus();
     Form_Load(appPath);
 }
 
@@ -132,11 +141,17 @@ void frmAbout::Form_Load(const QString& appPath) {
 }
 
 void frmAbout::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        Command1->click();
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const int key = event->key();
+    if (!plain || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape)) {
+        QDialog::keyPressEvent(event);
         return;
     }
-    QDialog::keyPressEvent(event);
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    if (key != Qt::Key_Escape && focused && focused->isEnabled())
+        focused->click();
+    else
+        Command1->click();
 }
 
 void frmAbout::showText(const QString& file) {

@@ -37,7 +37,8 @@ public:
     QString build_date;
 
 protected:
-    // Escape presses the mail button, as Enter does; only OK and the title bar close.
+    // Enter presses the focused button; Escape, and Enter while no button has the focus,
+    // press the mail button. Only OK and the title bar close.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

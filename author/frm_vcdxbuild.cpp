@@ -1,5 +1,6 @@
 #include "author/frm_vcdxbuild.h"
 
+#include "about/mod_about.h"
 #include "author/cue_rewrite.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
@@ -90,6 +91,8 @@ void frm_vcdxbuild::connectControls() {
     connect(opt_toc, &QRadioButton::clicked, this, &frm_vcdxbuild::opt_toc_Click);
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxbuild::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmd_about, &QPushButton::clicked, this,
+            [] { ShowComponentAbout(QStringLiteral("vcdxbuild")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 

@@ -1,5 +1,6 @@
 #include "inspect/frm_vcdxminfo.h"
 
+#include "about/mod_about.h"
 #include "inspect/vcdxminfo_builder.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
@@ -84,6 +85,8 @@ void frm_vcdxminfo::buildControls() {
     connect(chk_aps, &QCheckBox::clicked, this, &frm_vcdxminfo::chk_aps_Click);
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxminfo::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmd_about, &QPushButton::clicked, this,
+            [] { ShowComponentAbout(QStringLiteral("vcdxminfo")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 

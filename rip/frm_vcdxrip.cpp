@@ -1,5 +1,6 @@
 #include "rip/frm_vcdxrip.h"
 
+#include "about/mod_about.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
 #include "job/tool_form.h"
@@ -90,6 +91,8 @@ void frm_vcdxrip::connectControls() {
     connect(chk_norip, &QCheckBox::clicked, this, &frm_vcdxrip::chk_norip_Click);
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxrip::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmd_about, &QPushButton::clicked, this,
+            [] { ShowComponentAbout(QStringLiteral("vcdxrip")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 

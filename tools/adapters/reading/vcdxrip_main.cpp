@@ -2,9 +2,11 @@
 // The descriptor goes to --output-file=, the media files into the current directory, and
 // the report to standard output, where vcdxrip's own INFO lines (raised by our log-level
 // helper) end in "   INFO: done" on success only. A BIN needs no cue sheet beside it,
-// and may have 2336-byte sectors (--sector-2336); an NRG image is read as it is.
+// and may have 2336-byte sectors (--sector-2336); an NRG image is read as it is. The
+// descriptor's comment names the arguments given here, not those given to the tool.
 
 #include "tools/adapters/common/adapter_support.h"
+#include "tools/adapters/reading/descriptor_comment.h"
 #include "tools/adapters/reading/image_view.h"
 #include "tools/adapters/reading/private_folder.h"
 #include "tools/adapters/reading/reading_args.h"
@@ -54,8 +56,6 @@ int main(int argc, char** argv) {
     std::vector<std::string> toolArgs = args.switches;
     if (!args.outputFile.empty())
         toolArgs.push_back("--output-file=" + args.outputFile);
-    // The descriptor's comment would record our private cue sheet, gone after the run.
-    toolArgs.push_back("--no-command-comment");
     std::vector<std::string> standIns;
     toolArgs.push_back(SourceSwitch(args, &standIns));
     // An NRG image states its own sector size; the switch is handed on as given.
@@ -66,7 +66,12 @@ int main(int argc, char** argv) {
         for (const std::string& standIn : standIns)
             ReplaceAll(line, standIn, args.binFile);
     });
+    std::string error;
+    const std::string descriptor = args.outputFile.empty() ? "videocd.xml" : args.outputFile;
+    const bool commentPut = PutUserArguments(descriptor, toolArgs, {argv + 1, argv + argc}, &error);
     if (!end.Succeeded())
         adapter::Fail(kName, tool + " " + end.Describe());
+    if (!commentPut)
+        adapter::Fail(kName, error);
     return 0;
 }
