@@ -5,13 +5,13 @@
 #include "job/tool_form.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/whole_file_write.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSaveFile>
 
 namespace torvane {
 
@@ -19,18 +19,6 @@ namespace {
 
 const QString kCueFilter = QStringLiteral("All Files (*.*)|*.*|CUE Files (*.cue)|*.cue");
 const QString kInformation = QStringLiteral("Information");
-
-// Errors of the save are passed over: the closing question comes all the same. The new
-// text goes to a temporary file that then takes the output's place, so a save that fails
-// leaves the old file whole, even when it is the input itself.
-void SaveSheet(const QString& path, const QByteArray& text) {
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(text);
-    file.commit();
-}
 
 }  // namespace
 
@@ -105,7 +93,12 @@ void frm_subindex::cmd_rip_Click() {
                        QStringLiteral("The CUE file could not be read:\r\r") + input);
         return;
     }
-    SaveSheet(output, RemoveSubindices(*sheet));
+    // The old sheet is replaced only once the new one is whole on disk.
+    const QString reason = WriteWholeFile(output, RemoveSubindices(*sheet));
+    if (!reason.isEmpty()) {
+        InformationBox(services_.boxes, kInformation, FileNotWrittenMessage(output, reason));
+        return;
+    }
     reportCreated(output);
 }
 

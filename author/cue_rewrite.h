@@ -5,9 +5,9 @@
 
 namespace torvane {
 
-// Reads the sheet whole, deletes it, and writes it back through RemoveSubindices as raw
-// bytes. A sheet that cannot be read is left alone; from the deletion on, failures are
-// passed over.
-void RewriteCueWithoutSubindices(const QString& cuePath);
+// Reads the sheet whole and puts it back through RemoveSubindices, replacing the old sheet
+// only once the new one is whole on disk. A sheet that cannot be read is left alone.
+// Returns the reason the new sheet could not be written, or an empty text.
+QString RewriteCueWithoutSubindices(const QString& cuePath);
 
 }  // namespace torvane

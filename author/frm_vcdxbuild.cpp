@@ -8,6 +8,7 @@
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
+#include "shell/whole_file_write.h"
 #include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
@@ -161,8 +162,11 @@ void frm_vcdxbuild::report() {
     if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
         services_.desktop.openInViewer(frame.log_path);
     // After the question, and without a word of its own.
-    if (opt_cuebin->isChecked() && chk_subindex->isChecked())
-        RewriteCueWithoutSubindices(cue_path);
+    if (!opt_cuebin->isChecked() || !chk_subindex->isChecked())
+        return;
+    const QString reason = RewriteCueWithoutSubindices(cue_path);
+    if (!reason.isEmpty())
+        InformationBox(services_.boxes, kInformation, FileNotWrittenMessage(cue_path, reason));
 }
 
 void frm_vcdxbuild::closeEvent(QCloseEvent* event) {

@@ -1,10 +1,12 @@
 #include "job/job_frame.h"
 
 #include "job/job_paths.h"
+#include "platform/replace_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QWidget>
+#include <cstring>
 
 namespace torvane {
 
@@ -17,22 +19,6 @@ constexpr int kPollMs = 250;
 void DeleteFile(const QString& path) {
     if (!path.isEmpty())
         QFile::remove(path);
-}
-
-// Raw bytes, nothing added: no byte-order mark, no end-of-file mark. Returns the system's
-// reason when the script is not whole on disk.
-QString WriteScript(const QString& path, const QString& text) {
-    const QByteArray bytes = text.toLocal8Bit();
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
-        file.write(bytes) == bytes.size() && file.flush()) {
-        file.close();
-        if (file.error() == QFileDevice::NoError)
-            return {};
-    }
-    const QString reason = file.errorString();
-    file.remove();
-    return reason;
 }
 
 }  // namespace
@@ -57,8 +43,11 @@ bool JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
     // The job folder was checked at Go; a job that then fails shows in its log.
     QDir::setCurrent(plan.jobDir);
     DeleteFile(script_path);
-    const QString reason = WriteScript(script_path, JoinScriptLines(plan.scriptLines));
-    if (!reason.isEmpty()) {
+    // Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
+    const QByteArray script = JoinScriptLines(plan.scriptLines).toLocal8Bit();
+    if (const int error = ReplaceFileContents(QFile::encodeName(script_path).toStdString(),
+                                              std::string_view(script.constData(), script.size()))) {
+        const QString reason = QString::fromLocal8Bit(std::strerror(error));
         // No script, no job: the console would wait forever for an end marker.
         InformationBox(services_.boxes, QStringLiteral("Information"),
                        QStringLiteral("The job script could not be written:\r\r") +

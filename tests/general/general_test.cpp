@@ -3,11 +3,16 @@
 
 #include "shell/image_size_report.h"
 #include "shell/mod_general.h"
+#include "shell/whole_file_write.h"
+#include "tests/support/file_size_limit.h"
 
+#include <sys/stat.h>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <climits>
+#include <optional>
 
 using namespace torvane;
 
@@ -31,6 +36,8 @@ private slots:
     void sizeField_data();
     void sizeField();
     void readsFilesByteForByte();
+    void writesWholeOrNotAtAll_data();
+    void writesWholeOrNotAtAll();
 };
 
 void GeneralTest::number_data() {
@@ -197,6 +204,46 @@ void GeneralTest::readsFilesByteForByte() {
     QCOMPARE(ReadWholeFile(file.fileName()), OptionalBytes(content));
     QVERIFY(!ReadWholeFile(dir.filePath(QStringLiteral("missing.txt"))));
     QVERIFY(!ReadWholeFile(dir.path()));  // a folder
+}
+
+void GeneralTest::writesWholeOrNotAtAll_data() {
+    QTest::addColumn<bool>("existing");
+    QTest::addColumn<bool>("full");
+    QTest::newRow("a new file") << false << false;
+    QTest::newRow("a file replaced keeps its permissions") << true << false;
+    QTest::newRow("a full disk leaves no file") << false << true;
+    QTest::newRow("a full disk leaves the old file whole") << true << true;
+}
+
+void GeneralTest::writesWholeOrNotAtAll() {
+    QFETCH(bool, existing);
+    QFETCH(bool, full);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("my sheet.cue"));
+    const QByteArray old("old sheet"), written(1500, 'x');
+    QFile file(path);
+    if (existing) {
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(old) == old.size());
+        file.close();
+        QVERIFY(chmod(QFile::encodeName(path).constData(), 0640) == 0);
+    }
+    QString reason;
+    {
+        std::optional<test::FileSizeLimit> limit;
+        if (full)
+            limit.emplace(1000);
+        reason = WriteWholeFile(path, written);
+    }
+    QCOMPARE(reason, full ? QStringLiteral("File too large") : QString());
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
+             existing || !full ? QStringList{"my sheet.cue"} : QStringList());
+    QCOMPARE(ReadWholeFile(path).value_or("(none)"),
+             full ? (existing ? old : QByteArray("(none)")) : written);
+    struct stat info {};
+    if (existing && stat(QFile::encodeName(path).constData(), &info) == 0)
+        QCOMPARE(info.st_mode & 0777, 0640u);
+    QVERIFY(FileNotWrittenMessage(path, reason)
+                .startsWith("The file could not be written:\r\r" + path));
 }
 
 QTEST_APPLESS_MAIN(GeneralTest)

@@ -3,6 +3,7 @@
 
 #include "additional/frm_subindex.h"
 #include "shell/frm_mainmenu.h"
+#include "tests/support/file_size_limit.h"
 #include "tests/support/job_driver.h"
 
 #include <QLineEdit>
@@ -29,6 +30,7 @@ class SubindexDialogTest : public QObject {
 private slots:
     void go_data();
     void go();
+    void aFullDiskKeepsTheSheetAndSaysSo();
 };
 
 void SubindexDialogTest::go_data() {
@@ -99,6 +101,32 @@ void SubindexDialogTest::go() {
     QCOMPARE(fakes.desktop.viewed, answers.value(boxes.size() - 1) == vbYes && written == kRewritten
                                        ? QStringList{path(output)}
                                        : QStringList());
+    QVERIFY(dialog->close());
+}
+
+void SubindexDialogTest::aFullDiskKeepsTheSheetAndSaysSo() {
+    QTemporaryDir dir;
+    const QString cue = dir.filePath("in.cue");
+    QFile sheet(cue);
+    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write(kSheet) == kSheet.size());
+    sheet.close();
+    FakeServices fakes;
+    frm_mainmenu menu(fakes.services, dir.path());
+    auto* dialog = qobject_cast<frm_subindex*>(menu.openTool(QStringLiteral("subindex")));
+    fakes.files.names = {cue, cue};
+    dialog->cmd_input->click();
+    dialog->cmd_output->click();
+    fakes.boxes.answers = {vbYes};  // overwrite
+    {
+        FileSizeLimit full(40);
+        dialog->cmd_rip->click();
+    }
+    QCOMPARE(fakes.boxes.shown.size(), 2u);  // the question, then the failure; no success
+    QCOMPARE(fakes.boxes.shown[1].text,
+             "The file could not be written:\r\r" + cue +
+                 "\r\rFile too large\r\rAny file of that name is as it was before.");
+    QCOMPARE(ReadFile(cue), kSheet);
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"in.cue"});
     QVERIFY(dialog->close());
 }
 

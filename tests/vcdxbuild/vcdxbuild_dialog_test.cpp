@@ -4,6 +4,7 @@
 
 #include "author/frm_vcdxbuild.h"
 #include "shell/frm_mainmenu.h"
+#include "tests/support/file_size_limit.h"
 #include "tests/support/job_driver.h"
 
 #include <QCheckBox>
@@ -124,18 +125,23 @@ void VcdxbuildDialogTest::job_data() {
     QTest::addColumn<QString>("box");
     QTest::addColumn<QStringList>("switches");
     QTest::addColumn<bool>("cueRewritten");
+    QTest::addColumn<bool>("diskFull");  // from the report on
     QTest::newRow("cue/bin, subindices removed after the question")
         << "movie.bin"
         << "subindex" << kSuccessLog << kSuccessBox << QStringList{"-v", "--image-type=bincue"}
-        << true;
+        << true << false;
     QTest::newRow("a failure never rewrites the cue")
         << "movie.bin"
         << "subindex" << QByteArray("   INFO: start\r\n**ERROR: bad XML\r\n") << kFailureBox
-        << QStringList{"-v", "--image-type=bincue"} << false;
+        << QStringList{"-v", "--image-type=bincue"} << false << false;
     QTest::newRow("toc, 2336, the subindex tick kept but grey")
         << "movie.toc"
         << "subindex s2336 toc" << kSuccessLog << kSuccessBox
-        << QStringList{"--sector-2336", "-v", "--image-type=cdrdao"} << false;
+        << QStringList{"--sector-2336", "-v", "--image-type=cdrdao"} << false << false;
+    QTest::newRow("a rewrite that cannot be written keeps the cue")
+        << "movie.bin"
+        << "subindex" << kSuccessLog << kSuccessBox << QStringList{"-v", "--image-type=bincue"}
+        << false << true;
 }
 
 void VcdxbuildDialogTest::job() {
@@ -145,6 +151,7 @@ void VcdxbuildDialogTest::job() {
     QFETCH(QString, box);
     QFETCH(QStringList, switches);
     QFETCH(bool, cueRewritten);
+    QFETCH(bool, diskFull);
     const QString projDir = work_->filePath("proj dir & co/"), imgDir = work_->filePath("img; $x/");
     const QString input = projDir + "-video cd.xml", cue = imgDir + "movie.cue";
     QVERIFY(QDir().mkpath(projDir) && QDir().mkpath(imgDir));
@@ -164,11 +171,18 @@ void VcdxbuildDialogTest::job() {
     dialog_->cmd_output->click();
     for (const QString& tick : ticks.split(' '))
         dialog_->findChild<QAbstractButton*>(tick == "toc" ? "opt_toc" : "chk_" + tick)->click();
+    std::optional<FileSizeLimit> full;
+    if (diskFull)
+        fakes_.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(40); };
     QVERIFY(RunJobToIdle(*dialog_->cmd_rip, dialog_->frame, fakes_.boxes, vbYes));
+    full.reset();
+    fakes_.boxes.onShow = nullptr;
 
     const bool success = box == kSuccessBox, toc = ticks.contains("toc");
-    QCOMPARE(fakes_.boxes.shown.size(), 1u);
+    QCOMPARE(fakes_.boxes.shown.size(), diskFull ? 2u : 1u);
     QCOMPARE(fakes_.boxes.shown[0].text, box);
+    if (diskFull)
+        QVERIFY(fakes_.boxes.shown[1].text.startsWith("The file could not be written:\r\r" + cue));
     QCOMPARE(fakes_.desktop.viewed, success ? QStringList{imgDir + "log.txt"} : QStringList());
     const QStringList files =
         toc ? QStringList{"--cdrdao-file=" + imgDir + "movie"}

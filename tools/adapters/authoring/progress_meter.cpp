@@ -20,7 +20,15 @@ int ProgressPercent(long long position, long long size) {
         return 0;
     if (position >= size)
         return 100;
-    return static_cast<int>(position * 100 / size);
+    // position < size here, so the quotient is below 100; in long double no product of the
+    // tool's figures can overflow.
+    return static_cast<int>(static_cast<long double>(position) * 100 / size);
+}
+
+long long ShownPosition(long long position, long long size) {
+    if (position < 0)
+        return 0;
+    return size > 0 && position > size ? size : position;
 }
 
 std::string ProgressMeter::Update(const GuiEvent& progress) {
@@ -34,8 +42,9 @@ std::string ProgressMeter::Update(const GuiEvent& progress) {
     label_ = label;
     percent_ = percent;
     char figures[64];
-    std::snprintf(figures, sizeof figures, ": %lld/%lld (%2d%%)", progress.position, progress.size,
-                  percent);
+    // The tool counts on past the size at the end: the figures stop at it, as the percent does.
+    std::snprintf(figures, sizeof figures, ": %lld/%lld (%2d%%)",
+                  ShownPosition(progress.position, progress.size), progress.size, percent);
     return out + "\r" + label + figures + kWipe;
 }
 

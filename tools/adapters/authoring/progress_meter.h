@@ -28,5 +28,7 @@ std::string ProgressLabel(const GuiEvent& progress);
 
 // The share done in whole percent, 0 to 100; 0 when the size is unknown.
 int ProgressPercent(long long position, long long size);
+// The position as the meter shows it: never below 0, never past a known size.
+long long ShownPosition(long long position, long long size);
 
 }  // namespace authoring

@@ -1,7 +1,8 @@
 #include "tools/adapters/reading/descriptor_comment.h"
 
+#include "platform/replace_file.h"
+
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
 #include <cstring>
@@ -29,38 +30,6 @@ bool ReadWhole(int fd, std::string* text) {
             return true;
         text->append(buffer, static_cast<std::size_t>(got));
     }
-}
-
-bool WriteWhole(int fd, const std::string& text) {
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t put = write(fd, text.data() + done, text.size() - done);
-        if (put < 0 && errno == EINTR)
-            continue;
-        if (put < 0)
-            return false;
-        done += static_cast<std::size_t>(put);
-    }
-    return true;
-}
-
-// Writes `text` into a new file beside `path`, with `mode`, and renames it over `path`.
-bool ReplaceWith(const std::string& path, const std::string& text, mode_t mode,
-                 std::string* error) {
-    std::string temporary = path + ".XXXXXX";
-    const int fd = mkstemp(temporary.data());
-    if (fd < 0) {
-        *error = "cannot write beside " + path + ": " + ErrnoText();
-        return false;
-    }
-    const bool written = fchmod(fd, mode) == 0 && WriteWhole(fd, text) && fsync(fd) == 0;
-    const int writeErrno = errno;
-    if (close(fd) != 0 || !written || rename(temporary.c_str(), path.c_str()) != 0) {
-        *error = "cannot replace " + path + ": " + std::strerror(written ? errno : writeErrno);
-        unlink(temporary.c_str());
-        return false;
-    }
-    return true;
 }
 
 }  // namespace
@@ -95,8 +64,7 @@ bool PutUserArguments(const std::string& path, const std::vector<std::string>& t
     if (fd < 0 && errno == ENOENT)
         return true;
     std::string xml;
-    struct stat info {};
-    const bool wasRead = fd >= 0 && fstat(fd, &info) == 0 && ReadWhole(fd, &xml);
+    const bool wasRead = fd >= 0 && ReadWhole(fd, &xml);
     if (fd >= 0)
         close(fd);
     if (!wasRead) {
@@ -104,7 +72,13 @@ bool PutUserArguments(const std::string& path, const std::vector<std::string>& t
         return false;
     }
     const std::optional<std::string> changed = WithUserArguments(xml, toolArgs, userArgs);
-    return !changed || ReplaceWith(path, *changed, info.st_mode & 07777, error);
+    if (!changed)
+        return true;
+    if (const int failure = torvane::ReplaceFileContents(path, *changed)) {
+        *error = "cannot replace " + path + ": " + std::strerror(failure);
+        return false;
+    }
+    return true;
 }
 
 }  // namespace reading
