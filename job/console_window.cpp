@@ -5,6 +5,8 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
 #include <optional>
 
 namespace torvane {
@@ -97,27 +99,51 @@ QSize ConsoleWindow::sizeHint() const {
 
 void ConsoleWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QColor background = ToQColor(screen_.defaultBackground());
-    painter.fillRect(rect(), background);
-    const QSize cell = cellSize();
+    painter.fillRect(rect(), ToQColor(screen_.defaultBackground()));
     const int ascent = QFontMetrics(font()).ascent();
-    for (int row = 0; row < screen_.rows(); ++row) {
-        for (int column = 0; column < screen_.columns(); ++column) {
-            const platform::Cell c = screen_.cell(row, column);
-            const QRect box(kMargin + column * cell.width(), kMargin + row * cell.height(),
-                            cell.width(), cell.height());
-            if (c.background != screen_.defaultBackground())
-                painter.fillRect(box, ToQColor(c.background));
-            if (c.text.trimmed().isEmpty())
-                continue;
-            painter.setPen(ToQColor(c.foreground));
-            painter.drawText(box.left(), box.top() + ascent, c.text);
-        }
-    }
+    for (int row = 0; row < screen_.rows(); ++row)
+        paintRow(painter, row, ascent);
+    if (linesBack_ > 0)
+        return;
     // The cursor: a bar under the cell where the next character goes.
+    const QSize cell = cellSize();
     const platform::CursorPosition at = screen_.cursor();
     painter.fillRect(kMargin + at.column * cell.width(), kMargin + (at.row + 1) * cell.height() - 2,
                      cell.width(), 2, ToQColor(screen_.defaultForeground()));
+}
+
+void ConsoleWindow::paintRow(QPainter& painter, int row, int ascent) const {
+    const QSize cell = cellSize();
+    const int top = kMargin + row * cell.height();
+    if (const std::optional<QString> old = screen_.scrolledBackRow(linesBack_, row)) {
+        painter.setPen(ToQColor(screen_.defaultForeground()));
+        painter.drawText(kMargin, top + ascent, *old);
+        return;
+    }
+    for (int column = 0; column < screen_.columns(); ++column) {
+        const platform::Cell c = screen_.cell(row - linesBack_, column);
+        const QRect box(kMargin + column * cell.width(), top, cell.width(), cell.height());
+        if (c.background != screen_.defaultBackground())
+            painter.fillRect(box, ToQColor(c.background));
+        if (c.text.trimmed().isEmpty())
+            continue;
+        painter.setPen(ToQColor(c.foreground));
+        painter.drawText(box.left(), box.top() + ascent, c.text);
+    }
+}
+
+void ConsoleWindow::scrollBack(int lines) {
+    const int wanted = std::clamp(linesBack_ + lines, 0, screen_.scrollbackLines());
+    if (wanted == linesBack_)
+        return;
+    linesBack_ = wanted;
+    update();
+}
+
+void ConsoleWindow::wheelEvent(QWheelEvent* event) {
+    // One notch of the wheel is 120 units and scrolls three lines.
+    scrollBack(event->angleDelta().y() / 40);
+    event->accept();
 }
 
 QByteArray ConsoleWindow::bytesOfKey(const QKeyEvent& event) {
@@ -134,11 +160,20 @@ QByteArray ConsoleWindow::bytesOfKey(const QKeyEvent& event) {
 }
 
 void ConsoleWindow::keyPressEvent(QKeyEvent* event) {
+    // Shift with Page Up or Page Down browses the scrollback; the program sees nothing of it.
+    const bool shifted = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (shifted && (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)) {
+        const int page = screen_.rows() - 1;
+        scrollBack(event->key() == Qt::Key_PageUp ? page : -page);
+        event->accept();
+        return;
+    }
     const QByteArray bytes = bytesOfKey(*event);
     if (bytes.isEmpty()) {
         QWidget::keyPressEvent(event);
         return;
     }
+    scrollBack(-linesBack_);  // typing brings the live screen back
     if (typed_)
         typed_(bytes);
     event->accept();

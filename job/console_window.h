@@ -12,6 +12,8 @@
 #include <functional>
 
 class QKeyEvent;
+class QPainter;
+class QWheelEvent;
 
 namespace torvane {
 
@@ -25,10 +27,13 @@ public:
     // The screen has changed: repaint soon, several changes at once.
     void screenChanged();
     QSize sizeHint() const override;
+    // How many lines the view is scrolled back into the scrollback; 0 shows the live screen.
+    int linesBack() const { return linesBack_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     // The console stands open until its owner drops it.
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
@@ -36,10 +41,13 @@ protected:
 private:
     QByteArray bytesOfKey(const QKeyEvent& event);
     QSize cellSize() const;
+    void scrollBack(int lines);
+    void paintRow(QPainter& painter, int row, int ascent) const;
 
     platform::ScreenModel& screen_;
     TypedHandler typed_;
     QTimer repaintTimer_;
+    int linesBack_ = 0;
 };
 
 }  // namespace torvane

@@ -85,6 +85,10 @@ ScreenModel::ScreenModel(VTerm* terminal, int rows, int columns)
             Owner(user)->notifyChanged();
             return 1;
         };
+        c.sb_pushline = [](int columns, const VTermScreenCell* cells, void* user) {
+            Owner(user)->keepScrolledOffLine(columns, cells);
+            return 1;
+        };
         return c;
     }();
     vterm_set_utf8(terminal, 1);
@@ -152,6 +156,25 @@ Cell ScreenModel::cell(int row, int column) const {
         std::swap(result.foreground, result.background);
     result.bold = raw.attrs.bold;
     return result;
+}
+
+void ScreenModel::keepScrolledOffLine(int columns, const void* cells) {
+    const auto* row = static_cast<const VTermScreenCell*>(cells);
+    QString line;
+    for (int column = 0; column < columns; ++column)
+        line += CellText(row[column]);
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    scrollback_.push_back(line);
+    if (scrollback_.size() > static_cast<std::size_t>(kScrollbackLimit))
+        scrollback_.pop_front();
+}
+
+std::optional<QString> ScreenModel::scrolledBackRow(int linesBack, int row) const {
+    if (linesBack <= 0 || row >= linesBack)
+        return std::nullopt;
+    const int index = scrollbackLines() - linesBack + row;
+    return index >= 0 ? scrollback_[static_cast<std::size_t>(index)] : QString();
 }
 
 CursorPosition ScreenModel::cursor() const {

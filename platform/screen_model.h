@@ -6,8 +6,10 @@
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct VTerm;
 struct VTermScreen;
@@ -68,6 +70,14 @@ public:
     Cell cell(int row, int column) const;
     CursorPosition cursor() const;
 
+    // The lines that scrolled off the top of the screen, at most kScrollbackLimit of them;
+    // they keep their text, not their colours.
+    int scrollbackLines() const { return static_cast<int>(scrollback_.size()); }
+    // Row `row` of a view scrolled back by `linesBack` lines, when that row shows a line of
+    // the scrollback; nullopt when it shows row `row - linesBack` of the live screen.
+    std::optional<QString> scrolledBackRow(int linesBack, int row) const;
+    static constexpr int kScrollbackLimit = 3000;
+
     // The colours of cells that no program has coloured.
     void setDefaultColours(Rgb foreground, Rgb background);
     Rgb defaultForeground() const { return defaultForeground_; }
@@ -86,6 +96,7 @@ private:
     static void deleteTerminal(VTerm* terminal);
     void output(const char* bytes, std::size_t length);
     void notifyChanged();
+    void keepScrolledOffLine(int columns, const void* cells);
 
     std::unique_ptr<VTerm, void (*)(VTerm*)> terminal_;
     VTermScreen* screen_ = nullptr;
@@ -95,7 +106,8 @@ private:
     Rgb defaultBackground_{0, 0, 0};
     Writer writer_;
     std::function<void()> changed_;
-    QByteArray* capture_ = nullptr;  // set while keySequence() collects libvterm's output
+    QByteArray* capture_ = nullptr;
+    std::deque<QString> scrollback_;  // set while keySequence() collects libvterm's output
 };
 
 }  // namespace torvane::platform

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeySequence>
@@ -245,8 +246,18 @@ void frm_mainmenu::applyTabOrder() {
     setTabOrder(cmd_quit, toolButtons[QStringLiteral("lkvcdxrip")]);
 }
 
+namespace {
+bool IsWindowSwitch(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+}  // namespace
+
 bool frm_mainmenu::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
+    // Switching to another window and back moves no focus within the menu.
+    if ((type == QEvent::FocusIn || type == QEvent::FocusOut) &&
+        IsWindowSwitch(static_cast<QFocusEvent*>(event)->reason()))
+        return QWidget::eventFilter(watched, event);
     const bool pointedAt = type == QEvent::FocusIn || type == QEvent::Enter ||
                            type == QEvent::MouseMove || type == QEvent::HoverMove;
     if (watched == SSTab1 || watched == SSTab1->tabBar()) {

@@ -2,6 +2,7 @@
 // in the console window reach them, and nothing of them outlives the console.
 
 #include "job/cconsole.h"
+#include "job/console_window.h"
 
 #include <sys/wait.h>
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <cerrno>
 #include <csignal>
@@ -56,6 +58,7 @@ private slots:
     void keysTypedInTheWindowReachTheProgram_data();
     void keysTypedInTheWindowReachTheProgram();
     void aChattyProgramNeverWaitsOnTheConsole();
+    void browsingTheScrollbackIsNoKeyForTheProgram();
     void destroyingTheConsoleLeavesNoProcess_data();
     void destroyingTheConsoleLeavesNoProcess();
     void insertWordWritesAtTheTopLeftAndTheCursorStays_data();
@@ -215,6 +218,30 @@ void CConsoleTest::keysTypedInTheWindowReachTheProgram() {
                         Qt::KeyboardModifiers(modifiers));
     QTRY_COMPARE_WITH_TIMEOUT(FirstRow(console.screenText()), QString::fromLatin1(received),
                               kWaitMs);
+}
+
+void CConsoleTest::browsingTheScrollbackIsNoKeyForTheProgram() {
+    const QString program =
+        makeProgram(QStringLiteral("pager"),
+                    "seq 1 60\nstty raw -echo\nprintf ready\n"
+                    "byte=$(dd bs=1 count=1 2>/dev/null | od -An -tx1 | tr -d ' ')\n"
+                    "printf '\\033[H\\033[2Jgot %s' \"$byte\"\nexec sleep 300");
+    CConsole console;
+    console.StartApp(program);
+    QTRY_VERIFY_WITH_TIMEOUT(console.screenText().endsWith(QStringLiteral("ready")), kWaitMs);
+    auto* window = qobject_cast<torvane::ConsoleWindow*>(console.window());
+    QTest::keyClick(window, Qt::Key_PageUp, Qt::ShiftModifier);
+    QWheelEvent notch(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window, &notch);
+    QCOMPARE(window->linesBack(), 24 + 3);
+    QTest::keyClick(window, Qt::Key_PageDown, Qt::ShiftModifier);
+    QCOMPARE(window->linesBack(), 3);
+    QTest::qWait(300);
+    QVERIFY(console.screenText().endsWith(QStringLiteral("ready")));  // still waiting
+    QTest::keyClick(window, Qt::Key_A);
+    QCOMPARE(window->linesBack(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(console.WordScan(), QStringLiteral("got 61   "), kWaitMs);
 }
 
 void CConsoleTest::aChattyProgramNeverWaitsOnTheConsole() {

@@ -44,6 +44,7 @@ private slots:
     void outputSplitAtAnyByteGivesTheSameScreen();
     void aCharacterSplitAcrossTwoWritesIsStillOneCharacter();
     void aScreenTooSmallToExistIsRefused();
+    void linesScrolledOffAreKeptWithinALimit();
     void screenTextDropsTrailingBlanksOnly();
     void colouredCellsKeepTheirColourAndTheRestFollowTheDefaults();
     void cursorKeysFollowTheTerminalMode();
@@ -128,6 +129,20 @@ void ScreenModelTest::aCharacterSplitAcrossTwoWritesIsStillOneCharacter() {
 void ScreenModelTest::aScreenTooSmallToExistIsRefused() {
     QVERIFY(ScreenModel::create(0, 80) == nullptr);
     QVERIFY(ScreenModel::create(25, -1) == nullptr);
+}
+
+void ScreenModelTest::linesScrolledOffAreKeptWithinALimit() {
+    auto screen = ScreenModel::create(25, 80);
+    for (int line = 1; line <= 30; ++line)
+        screen->feed(QStringLiteral("line %1\r\n").arg(line, 2, 10, QLatin1Char('0')).toUtf8());
+    QCOMPARE(screen->scrollbackLines(), 6);
+    QCOMPARE(screen->scrolledBackRow(6, 0), std::optional<QString>("line 01"));
+    QCOMPARE(screen->scrolledBackRow(6, 5), std::optional<QString>("line 06"));
+    QCOMPARE(screen->scrolledBackRow(6, 6), std::nullopt);  // the live screen's row 0
+    QCOMPARE(screen->text(0, 0, 9), QStringLiteral("line 07  "));
+    for (int line = 0; line < ScreenModel::kScrollbackLimit + 100; ++line)
+        screen->feed("more\r\n");
+    QCOMPARE(screen->scrollbackLines(), ScreenModel::kScrollbackLimit);
 }
 
 void ScreenModelTest::screenTextDropsTrailingBlanksOnly() {

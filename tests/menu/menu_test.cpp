@@ -1,5 +1,6 @@
 // The main menu: its buttons, its two states, and the way in and out of a tool dialog.
 
+#include "job/enter_presses_button.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_mainmenu.h"
 #include "tests/support/fake_services.h"
@@ -23,6 +24,8 @@ private slots:
     void toolButtonOpensItsDialogAndClosingComesBack();
     void accessKeyPressesTheButton();
     void escapePressesQuit();
+    void enterPressesTheFocusedButton();
+    void aWindowSwitchIsNoFocusMove();
     void buttonsWithoutADialogAreDisabled();
     void pointingAtAButtonDescribesIt_data();
     void pointingAtAButtonDescribesIt();
@@ -96,6 +99,30 @@ void MenuTest::escapePressesQuit() {
     QTest::keyClick(menu_.get(), Qt::Key_Escape);
     QCOMPARE(clicked.count(), 1);
     QVERIFY(fakes_.boxes.shown.empty());  // no question
+}
+
+void MenuTest::enterPressesTheFocusedButton() {
+    EnterPressesFocusedButton filter;
+    qApp->installEventFilter(&filter);
+    QPushButton* button = menu_->toolButtons.at(QStringLiteral("vcdxminfo"));
+    menu_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(menu_.get()));
+    button->setFocus(Qt::TabFocusReason);
+    QSignalSpy clicked(button, &QPushButton::clicked);
+    QTest::keyClick(button, Qt::Key_Return);
+    QCOMPARE(clicked.count(), 1);
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("frm_vcdxminfo"))
+            widget->close();
+    }
+}
+
+void MenuTest::aWindowSwitchIsNoFocusMove() {
+    QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
+    QApplication::sendEvent(menu_->cmd_quit, &enter);
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(menu_->toolButtons.at(QStringLiteral("vcdxbuild")), &back);
+    QCOMPARE(menu_->lbl_des->text(), QStringLiteral("Quit this program"));
 }
 
 void MenuTest::buttonsWithoutADialogAreDisabled() {
