@@ -116,7 +116,7 @@ void frm_subindex::reportCreated(const QString& output) {
     if (ConfirmationBox(services_.boxes, QStringLiteral("Question"),
                         QStringLiteral("The new cuesheet has been created!\r\rDo you want to "
                                        "open up the CUE file?")) == vbYes)
-        services_.desktop.openInViewer(output);
+        OpenInViewer(services_, output);
 }
 
 void frm_subindex::closeEvent(QCloseEvent* event) {

@@ -8,8 +8,8 @@
 #include "shell/frm_mainmenu.h"
 #include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
-#include "shell/whole_file_write.h"
 #include "shell/tool_dialogs.h"
+#include "shell/whole_file_write.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -160,7 +160,7 @@ void frm_vcdxbuild::report() {
         return;
     }
     if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
-        services_.desktop.openInViewer(frame.log_path);
+        OpenInViewer(services_, frame.log_path);
     // After the question, and without a word of its own.
     if (!opt_cuebin->isChecked() || !chk_subindex->isChecked())
         return;

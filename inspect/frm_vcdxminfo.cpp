@@ -129,7 +129,7 @@ void frm_vcdxminfo::setControlsEnabled(bool enabled) {
 void frm_vcdxminfo::report() {
     if (QuestionBox(services_.boxes, QStringLiteral("Question"),
                     VcdxminfoReportText(txt_output->text())) == vbYes)
-        services_.desktop.openInViewer(txt_output->text());
+        OpenInViewer(services_, txt_output->text());
 }
 
 void frm_vcdxminfo::closeEvent(QCloseEvent* event) {

@@ -71,8 +71,8 @@ std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int fi
     return RunFileDialog(QFileDialog::AcceptSave, filter, filterIndex);
 }
 
-void QtDesktop::openInViewer(const QString& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+bool QtDesktop::openInViewer(const QString& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 void QtDesktop::openUrl(const QString& url) {

@@ -18,7 +18,7 @@ public:
 
 class QtDesktop : public Desktop {
 public:
-    void openInViewer(const QString& path) override;
+    bool openInViewer(const QString& path) override;
     void openUrl(const QString& url) override;
 };
 

@@ -49,3 +49,15 @@ bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
 }
 
 }  // namespace torvane
+
+namespace torvane {
+
+void OpenInViewer(Services& services, const QString& path) {
+    if (services.desktop.openInViewer(path))
+        return;
+    InformationBox(
+        services.boxes, QStringLiteral("Information"),
+        QStringLiteral("No program on this desktop opens the file:\r\r") + ShownPath(path));
+}
+
+}  // namespace torvane

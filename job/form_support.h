@@ -35,3 +35,13 @@ bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
                   std::initializer_list<QString> paths, std::initializer_list<QString> folders);
 
 }  // namespace torvane
+
+namespace torvane {
+
+struct Services;
+
+// Shows a file the user asked to open in the desktop's viewer; when the desktop has no
+// program for it, an information box says so and names the file.
+void OpenInViewer(Services& services, const QString& path);
+
+}  // namespace torvane

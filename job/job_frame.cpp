@@ -45,8 +45,9 @@ bool JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
     DeleteFile(script_path);
     // Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
     const QByteArray script = JoinScriptLines(plan.scriptLines).toLocal8Bit();
-    if (const int error = ReplaceFileContents(QFile::encodeName(script_path).toStdString(),
-                                              std::string_view(script.constData(), script.size()))) {
+    if (const int error =
+            ReplaceFileContents(QFile::encodeName(script_path).toStdString(),
+                                std::string_view(script.constData(), script.size()))) {
         const QString reason = QString::fromLocal8Bit(std::strerror(error));
         // No script, no job: the console would wait forever for an end marker.
         InformationBox(services_.boxes, QStringLiteral("Information"),

@@ -52,8 +52,9 @@ public:
 class Desktop {
 public:
     virtual ~Desktop() = default;
-    // Shows a text file in the desktop's viewer and returns at once.
-    virtual void openInViewer(const QString& path) = 0;
+    // Shows a text file in the desktop's viewer and returns at once; false when the desktop
+    // has no program for it.
+    virtual bool openInViewer(const QString& path) = 0;
     // Opens a web address or a mailto: address and returns at once.
     virtual void openUrl(const QString& url) = 0;
 };

@@ -155,7 +155,7 @@ void frm_vcdxrip::report() {
         return;
     }
     if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
-        services_.desktop.openInViewer(frame.log_path);
+        OpenInViewer(services_, frame.log_path);
 }
 
 void frm_vcdxrip::closeEvent(QCloseEvent* event) {

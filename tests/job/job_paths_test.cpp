@@ -1,7 +1,9 @@
-// What every Go handler refuses before anything is written: paths that cannot be carried
-// through a job script, and folders that a job cannot write into.
+// What every Go handler refuses before anything is written (paths that cannot be carried
+// through a job script, folders that a job cannot write into), and the viewer's failure.
 
 #include "job/job_paths.h"
+#include "job/form_support.h"
+#include "tests/support/fake_services.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,6 +18,7 @@ private slots:
     void unsafePaths_data();
     void unsafePaths();
     void unusableFolders();
+    void aFileWithoutAViewerIsNamedInABox();
 };
 
 void JobPathsTest::unsafePaths_data() {
@@ -68,6 +71,18 @@ void JobPathsTest::unusableFolders() {
     QCOMPARE(UnusableFolderMessage(QStringLiteral("/proc/self/")),
              QStringLiteral("The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a "
                             "folder that you may write to."));
+}
+
+void JobPathsTest::aFileWithoutAViewerIsNamedInABox() {
+    test::FakeServices fakes;
+    OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
+    QVERIFY(fakes.boxes.shown.empty());
+    fakes.desktop.viewerFound = false;
+    OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
+    QCOMPARE(fakes.boxes.shown.size(), 1u);
+    QCOMPARE(fakes.boxes.shown[0].text,
+             QStringLiteral("No program on this desktop opens the file:\r\r/out/log.txt"));
+    QCOMPARE(fakes.desktop.viewed.size(), 2);
 }
 
 QTEST_MAIN(JobPathsTest)

@@ -63,10 +63,14 @@ private:
 
 class FakeDesktop : public Desktop {
 public:
-    void openInViewer(const QString& path) override { viewed << path; }
+    bool openInViewer(const QString& path) override {
+        viewed << path;
+        return viewerFound;
+    }
     void openUrl(const QString& url) override { urls << url; }
     QStringList viewed;
     QStringList urls;
+    bool viewerFound = true;  // false: the desktop has no program for the file
 };
 
 struct FakeServices {
