@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
 
@@ -12,9 +14,22 @@ namespace torvane {
 
 namespace {
 
+// The name as the user typed it: Qt's dialog reads a typed name holding double quotes as a
+// list of quoted names and would hand back another path. Typed with quotes, the name is
+// taken as it stands, and Go refuses it in words.
+QString TypedName(const QFileDialog& dialog) {
+    const QString chosen = dialog.selectedFiles().value(0);
+    const auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (!edit || !edit->text().contains(QLatin1Char('"')))
+        return chosen;
+    return QDir(dialog.directory()).filePath(edit->text());
+}
+
 std::optional<QString> RunFileDialog(QFileDialog::AcceptMode mode, const QString& filter,
-                                     int filterIndex) {
-    QFileDialog dialog(QApplication::activeWindow());
+                                     int filterIndex, const QString& folder) {
+    QFileDialog dialog(QApplication::activeWindow(), QString(), folder);
+    // Qt's own dialog, whatever the desktop: the typed name must be readable.
+    dialog.setOption(QFileDialog::DontUseNativeDialog, true);
     dialog.setAcceptMode(mode);
     // A typed name is taken as it stands: no existence test, no overwrite prompt.
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -25,7 +40,7 @@ std::optional<QString> RunFileDialog(QFileDialog::AcceptMode mode, const QString
         dialog.selectNameFilter(filters[filterIndex - 1]);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return dialog.selectedFiles().constFirst();
+    return TypedName(dialog);
 }
 
 }  // namespace
@@ -63,12 +78,14 @@ int QtMessageBoxes::show(const MessageBoxRequest& request) {
     return box.exec() == QMessageBox::Yes ? vbYes : vbNo;
 }
 
-std::optional<QString> QtFileDialogs::openFileName(const QString& filter, int filterIndex) {
-    return RunFileDialog(QFileDialog::AcceptOpen, filter, filterIndex);
+std::optional<QString> QtFileDialogs::openFileName(const QString& filter, int filterIndex,
+                                                   const QString& folder) {
+    return RunFileDialog(QFileDialog::AcceptOpen, filter, filterIndex, folder);
 }
 
-std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int filterIndex) {
-    return RunFileDialog(QFileDialog::AcceptSave, filter, filterIndex);
+std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int filterIndex,
+                                                   const QString& folder) {
+    return RunFileDialog(QFileDialog::AcceptSave, filter, filterIndex, folder);
 }
 
 bool QtDesktop::openInViewer(const QString& path) {

@@ -12,8 +12,10 @@ public:
 
 class QtFileDialogs : public FileDialogs {
 public:
-    std::optional<QString> openFileName(const QString& filter, int filterIndex) override;
-    std::optional<QString> saveFileName(const QString& filter, int filterIndex) override;
+    std::optional<QString> openFileName(const QString& filter, int filterIndex,
+                                        const QString& folder) override;
+    std::optional<QString> saveFileName(const QString& filter, int filterIndex,
+                                        const QString& folder) override;
 };
 
 class QtDesktop : public Desktop {

@@ -3,6 +3,8 @@
 #include "job/job_paths.h"
 #include "job/services.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QPushButton>
@@ -13,12 +15,34 @@ namespace torvane {
 // The file type of the tool's own is the second filter entry, so dialogs open on it.
 constexpr int kToolFilterIndex = 2;
 
+namespace {
+
+// The folder of the last name picked in any file dialog of this run.
+QString& LastPickedFolder() {
+    static QString folder;
+    return folder;
+}
+
+}  // namespace
+
+QString BrowseStartFolder(const QString& boxText) {
+    const QFileInfo shown(boxText);
+    if (!boxText.isEmpty() && shown.absoluteDir().exists())
+        return shown.absolutePath();
+    if (!LastPickedFolder().isEmpty() && QFileInfo(LastPickedFolder()).isDir())
+        return LastPickedFolder();
+    return QDir::homePath();
+}
+
 void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target) {
+    const QString folder = BrowseStartFolder(target.text());
     const std::optional<QString> name = kind == BrowseKind::Open
-                                            ? files.openFileName(filter, kToolFilterIndex)
-                                            : files.saveFileName(filter, kToolFilterIndex);
-    if (name)
-        target.setText(*name);
+                                            ? files.openFileName(filter, kToolFilterIndex, folder)
+                                            : files.saveFileName(filter, kToolFilterIndex, folder);
+    if (!name)
+        return;
+    target.setText(*name);
+    LastPickedFolder() = QFileInfo(*name).absolutePath();
 }
 
 void MakeCancelButton(QWidget& form, QPushButton& cancel) {

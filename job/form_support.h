@@ -14,8 +14,13 @@ class FileDialogs;
 
 enum class BrowseKind { Open, Save };
 
-// The browse handler: a file dialog with `filter` on its second entry; the chosen name
-// goes unchanged into `target`; Cancel changes nothing.
+// The browse handler: a file dialog with `filter` on its second entry, opened in
+// BrowseStartFolder; the chosen name goes unchanged into `target`; Cancel changes nothing.
+// Where a file dialog opens: the folder of the path already in its box, else the folder
+// of the last name picked in this run, else the home folder. The application folder, where
+// a dialog with no folder would open, holds nothing of the user's.
+QString BrowseStartFolder(const QString& boxText);
+
 void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target);
 
 // Makes Escape press `cancel` (while it is enabled), as a form's cancel button.

@@ -43,10 +43,13 @@ int PlainBox(MessageBoxes& boxes, const QString& text);
 class FileDialogs {
 public:
     virtual ~FileDialogs() = default;
-    // `filter` is in the "Desc|pat;pat|Desc|pat" form; `filterIndex` is 1-based.
-    // No overwrite prompt, no existence test. nullopt when the user cancels.
-    virtual std::optional<QString> openFileName(const QString& filter, int filterIndex) = 0;
-    virtual std::optional<QString> saveFileName(const QString& filter, int filterIndex) = 0;
+    // `filter` is in the "Desc|pat;pat|Desc|pat" form; `filterIndex` is 1-based; the dialog
+    // opens in `folder`. No overwrite prompt, no existence test. nullopt when the user
+    // cancels.
+    virtual std::optional<QString> openFileName(const QString& filter, int filterIndex,
+                                                const QString& folder) = 0;
+    virtual std::optional<QString> saveFileName(const QString& filter, int filterIndex,
+                                                const QString& folder) = 0;
 };
 
 class Desktop {

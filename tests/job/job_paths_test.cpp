@@ -2,13 +2,18 @@
 // through a job script, folders that a job cannot write into), and the viewer's failure.
 
 #include "job/job_paths.h"
+#include "job/desktop_services.h"
 #include "job/form_support.h"
 #include "tests/support/fake_services.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace torvane;
 
@@ -19,6 +24,9 @@ private slots:
     void unsafePaths();
     void unusableFolders();
     void aFileWithoutAViewerIsNamedInABox();
+    void fileDialogsOpenWhereTheUsersFilesAre();
+    void aTypedNameIsTakenAsItStands_data();
+    void aTypedNameIsTakenAsItStands();
 };
 
 void JobPathsTest::unsafePaths_data() {
@@ -83,6 +91,42 @@ void JobPathsTest::aFileWithoutAViewerIsNamedInABox() {
     QCOMPARE(fakes.boxes.shown[0].text,
              QStringLiteral("No program on this desktop opens the file:\r\r/out/log.txt"));
     QCOMPARE(fakes.desktop.viewed.size(), 2);
+}
+
+void JobPathsTest::fileDialogsOpenWhereTheUsersFilesAre() {
+    QTemporaryDir dir;
+    const QString picked = dir.filePath(QStringLiteral("disc one/movie.bin"));
+    QVERIFY(QDir().mkpath(QFileInfo(picked).path()));
+    QCOMPARE(BrowseStartFolder(QString()), QDir::homePath());  // nothing picked yet
+    test::FakeServices fakes;
+    QLineEdit box;
+    fakes.files.names = {picked};
+    Browse(fakes.files, BrowseKind::Open, QStringLiteral("All|*.*"), box);
+    QCOMPARE(fakes.files.calls.at(0).folder, QDir::homePath());
+    QCOMPARE(box.text(), picked);
+    QCOMPARE(BrowseStartFolder(QString()), QFileInfo(picked).path());
+    QCOMPARE(BrowseStartFolder(QStringLiteral("/no/such/folder/x.xml")), QFileInfo(picked).path());
+    QCOMPARE(BrowseStartFolder(dir.filePath(QStringLiteral("other.xml"))), dir.path());
+}
+
+void JobPathsTest::aTypedNameIsTakenAsItStands_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("a plain name") << "report.xml";
+    QTest::newRow("a name with double quotes") << "say \"hi\".xml";
+}
+
+void JobPathsTest::aTypedNameIsTakenAsItStands() {
+    QFETCH(QString, typed);
+    QTemporaryDir dir;
+    QTimer::singleShot(100, [typed] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(typed);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    QtFileDialogs files;
+    QCOMPARE(files.saveFileName(QStringLiteral("All Files (*.*)|*.*"), 1, dir.path()),
+             std::optional<QString>(dir.filePath(typed)));
 }
 
 QTEST_MAIN(JobPathsTest)

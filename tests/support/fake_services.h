@@ -37,19 +37,22 @@ public:
         bool save;
         QString filter;
         int filterIndex;
+        QString folder;
     };
-    std::optional<QString> openFileName(const QString& filter, int filterIndex) override {
-        return next(false, filter, filterIndex);
+    std::optional<QString> openFileName(const QString& filter, int filterIndex,
+                                        const QString& folder) override {
+        return next({false, filter, filterIndex, folder});
     }
-    std::optional<QString> saveFileName(const QString& filter, int filterIndex) override {
-        return next(true, filter, filterIndex);
+    std::optional<QString> saveFileName(const QString& filter, int filterIndex,
+                                        const QString& folder) override {
+        return next({true, filter, filterIndex, folder});
     }
     std::vector<Call> calls;
     std::deque<std::optional<QString>> names;  // nullopt: the user cancels
 
 private:
-    std::optional<QString> next(bool save, const QString& filter, int index) {
-        calls.push_back({save, filter, index});
+    std::optional<QString> next(const Call& call) {
+        calls.push_back(call);
         if (names.empty() || !names.front().has_value()) {
             if (!names.empty())
                 names.pop_front();
