@@ -144,10 +144,6 @@ exit 2)")
                "echo 'finished ok, image created with 10 sectors [00:00:10] (1 bytes)'\n"
                "kill -SEGV $$")
         << 1 << QByteArray("vcdimager.exe: vcdimager was ended by signal 11");
-    QTest::newRow("vcdxgen fails") << "vcdxgen" << QByteArray("echo '**ERROR: bad' >&2\nexit 1")
-                                   << 1 << QByteArray("vcdxgen.exe: vcdxgen ended with status 1");
-    QTest::newRow("vcdxminfo fails: its status passes through")
-        << "vcdxminfo" << QByteArray("exit 3") << 3 << QByteArray();
     QTest::newRow("cdxa2mpeg crashes: so does its name")
         << "cdxa2mpeg" << QByteArray("kill -SEGV $$") << -1 << QByteArray();
 }

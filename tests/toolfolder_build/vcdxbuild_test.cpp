@@ -85,8 +85,6 @@ void VcdxbuildAdapterTest::buildsTheImage_data() {
     QTest::newRow("CUE/BIN, 2336-byte sectors, shell characters")
         << "svcd" << true << false << "img $HOME; & <x> |y"
         << "-movie (1)";
-    QTest::newRow("CDRDAO/TOC") << "vcd" << false << true << "toc ü"
-                                << "movie";
     QTest::newRow("CDRDAO/TOC, 2336-byte sectors") << "svcd" << true << true << "toc 2336"
                                                    << "m";
 }

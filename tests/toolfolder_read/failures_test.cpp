@@ -87,12 +87,8 @@ void FailuresTest::toolThatIsMissingOrFailsIsReported_data() {
     const QByteArray fails = "echo '   INFO: reading'\nexit 3";
     QTest::newRow("vcdxrip missing") << "vcdxrip.exe" << QStringList() << QByteArray()
                                      << QFile::encodeName("cannot run " + kTools + "vcdxrip");
-    QTest::newRow("vcd-info missing") << "vcddebug.exe" << QStringList() << QByteArray()
-                                      << QFile::encodeName("cannot run " + kTools + "vcd-info");
     QTest::newRow("vcdxrip fails")
         << "vcdxrip.exe" << QStringList() << fails << QByteArray("ended with status 3");
-    QTest::newRow("vcdxrip fails, 2336") << "vcdxrip.exe" << QStringList{"--sector-2336"} << fails
-                                         << QByteArray("ended with status 3");
     QTest::newRow("vcd-info fails")
         << "vcddebug.exe" << QStringList() << fails << QByteArray("ended with status 3");
 }
@@ -119,8 +115,6 @@ void FailuresTest::droppedConsoleEndsTheToolAndLeavesNothing_data() {
     QTest::addColumn<QStringList>("switches");
     QTest::addColumn<int>("signal");
     QTest::newRow("vcdxrip.exe, hang-up") << "vcdxrip.exe" << QStringList() << int(SIGHUP);
-    QTest::newRow("vcdxrip.exe, 2336, terminate")
-        << "vcdxrip.exe" << QStringList{"--sector-2336"} << int(SIGTERM);
     QTest::newRow("vcddebug.exe, 2336, hang-up")
         << "vcddebug.exe" << QStringList{"--sector-2336"} << int(SIGHUP);
 }
