@@ -139,6 +139,36 @@ inline void ExpectRefusal(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes
     QVERIFY(go.isEnabled());
 }
 
+// A table of Go refusals: the names picked for input and output (a relative name lies in
+// the test's folder) and the start of the one box Go shows.
+inline void AddRefusalColumns() {
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("message");
+}
+
+inline void RefusalRow(const char* name, const char* input, const char* output,
+                       const char* message) {
+    QTest::newRow(name) << QString::fromUtf8(input) << QString::fromUtf8(output)
+                        << QString::fromUtf8(message);
+}
+
+// Picks the row's names through the dialog's two browse buttons, then expects the refusal.
+inline void PickAndExpectRefusal(FakeServices& fakes, QWidget& dialog, JobFrame& frame,
+                                 const QString& folder) {
+    QFETCH(QString, input);
+    QFETCH(QString, output);
+    QFETCH(QString, message);
+    const auto inFolder = [&folder](const QString& name) {
+        return name.isEmpty() || QDir::isAbsolutePath(name) ? name : folder + '/' + name;
+    };
+    fakes.files.names = {inFolder(input), inFolder(output)};
+    dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_input"))->click();
+    dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_output"))->click();
+    ExpectRefusal(*dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_rip")), frame,
+                  fakes.boxes, message, folder);
+}
+
 // Closes a tool dialog as a test ends, answering Yes should a job still run.
 inline void CloseDialog(QWidget* dialog, FakeMessageBoxes& boxes) {
     if (!dialog)

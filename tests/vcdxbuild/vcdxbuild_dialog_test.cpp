@@ -72,37 +72,19 @@ void VcdxbuildDialogTest::cleanup() {
 }
 
 void VcdxbuildDialogTest::goRefusesInOrder_data() {
-    QTest::addColumn<QString>("input");  // both below the test's folder
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("nothing set") << ""
-                                 << ""
-                                 << "You have not set an output file!";
-    QTest::newRow("no input") << ""
-                              << "m.bin"
-                              << "You have not loaded an input XML file!";
-    QTest::newRow("a quote in the input") << "\"v\".xml"
-                                          << "m.bin"
-                                          << "This file name cannot be passed to the tool:";
-    QTest::newRow("an input folder that does not exist") << "gone/v.xml"
-                                                         << "m.bin"
-                                                         << "The folder does not exist:";
-    QTest::newRow("an image folder that does not exist") << "v.xml"
-                                                         << "gone/m.bin"
-                                                         << "The folder does not exist:";
+    AddRefusalColumns();
+    RefusalRow("nothing set", "", "", "You have not set an output file!");
+    RefusalRow("no input", "", "m.bin", "You have not loaded an input XML file!");
+    RefusalRow("a quote in the input", "\"v\".xml", "m.bin",
+               "This file name cannot be passed to the tool:");
+    RefusalRow("an input folder that does not exist", "gone/v.xml", "m.bin",
+               "The folder does not exist:");
+    RefusalRow("an image folder that does not exist", "v.xml", "gone/m.bin",
+               "The folder does not exist:");
 }
 
 void VcdxbuildDialogTest::goRefusesInOrder() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QString, message);
-    const auto path = [this](const QString& name) {
-        return name.isEmpty() ? name : work_->filePath(name);
-    };
-    fakes_.files.names = {path(input), path(output)};
-    dialog_->cmd_input->click();
-    dialog_->cmd_output->click();
-    ExpectRefusal(*dialog_->cmd_rip, dialog_->frame, fakes_.boxes, message, work_->path());
+    PickAndExpectRefusal(fakes_, *dialog_, dialog_->frame, work_->path());
 }
 
 void VcdxbuildDialogTest::imageTypeGovernsSubindicesAndFilter() {

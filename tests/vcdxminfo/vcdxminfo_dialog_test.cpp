@@ -22,42 +22,25 @@ private slots:
 };
 
 void VcdxminfoDialogTest::goRefusesInOrder_data() {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");  // below the test's folder
-    QTest::addColumn<QString>("message");
-    QTest::newRow("nothing set: the output first") << ""
-                                                   << ""
-                                                   << "You have not set an output file!";
-    QTest::newRow("no input") << ""
-                              << "r.xml"
-                              << "You have not loaded an input XML file!";
-    QTest::newRow("a line feed in the input") << "/m/a\nb.mpg"
-                                              << "r.xml"
-                                              << "This file name cannot be passed to the tool:";
-    QTest::newRow("a quote in the output") << "/m/a.mpg"
-                                           << "say \"hi\".xml"
-                                           << "This file name cannot be passed to the tool:";
-    QTest::newRow("an output folder that does not exist") << "/m/a.mpg"
-                                                          << "gone/r.xml"
-                                                          << "The folder does not exist:";
-    QTest::newRow("an output folder that cannot be written") << "/m/a.mpg"
-                                                             << "/proc/self/r.xml"
-                                                             << "The folder cannot be written to:";
+    AddRefusalColumns();
+    RefusalRow("nothing set: the output first", "", "", "You have not set an output file!");
+    RefusalRow("no input", "", "r.xml", "You have not loaded an input XML file!");
+    RefusalRow("a line feed in the input", "/m/a\nb.mpg", "r.xml",
+               "This file name cannot be passed to the tool:");
+    RefusalRow("a quote in the output", "/m/a.mpg", "say \"hi\".xml",
+               "This file name cannot be passed to the tool:");
+    RefusalRow("an output folder that does not exist", "/m/a.mpg", "gone/r.xml",
+               "The folder does not exist:");
+    RefusalRow("an output folder that cannot be written", "/m/a.mpg", "/proc/self/r.xml",
+               "The folder cannot be written to:");
 }
 
 void VcdxminfoDialogTest::goRefusesInOrder() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QString, message);
     QTemporaryDir work;
     FakeServices fakes;
     frm_mainmenu menu(fakes.services, work.path());
     auto* dialog = qobject_cast<frm_vcdxminfo*>(menu.openTool(QStringLiteral("vcdxminfo")));
-    fakes.files.names = {
-        input, output.isEmpty() || output.startsWith('/') ? output : work.filePath(output)};
-    dialog->cmd_input->click();
-    dialog->cmd_output->click();
-    ExpectRefusal(*dialog->cmd_rip, dialog->frame, fakes.boxes, message, work.path());
+    PickAndExpectRefusal(fakes, *dialog, dialog->frame, work.path());
     QVERIFY(dialog->close());
 }
 

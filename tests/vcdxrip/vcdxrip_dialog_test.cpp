@@ -57,40 +57,22 @@ void VcdxripDialogTest::cleanup() {
 }
 
 void VcdxripDialogTest::goRefusesInOrder_data() {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");  // below the test's folder
-    QTest::addColumn<QString>("message");
-    QTest::newRow("nothing set: only the output") << ""
-                                                  << ""
-                                                  << "You have not set an output file!";
-    QTest::newRow("no input") << ""
-                              << "d.xml"
-                              << "You have not set an input CD image!";
-    QTest::newRow("an image that is no BIN or NRG")
-        << "/i/m.cue"
-        << "d.xml"
-        << "The CD Image has not been recognised as either\rCUE/BIN image type or NRG (Nero "
-           "Burning Rom)!";
-    QTest::newRow("a line feed that would run a command")
-        << "/i/movie\ntouch pwned\n.bin"
-        << "d.xml"
-        << "This file name cannot be passed to the tool:\r\r/i/movie?touch pwned?.bin\r\r";
-    QTest::newRow("a trailing backslash") << "/i/m.bin"
-                                          << "d\\"
-                                          << "This file name cannot be passed to the tool:";
-    QTest::newRow("an output folder that does not exist") << "/i/m.bin"
-                                                          << "gone/d.xml"
-                                                          << "The folder does not exist:";
+    AddRefusalColumns();
+    RefusalRow("nothing set: only the output", "", "", "You have not set an output file!");
+    RefusalRow("no input", "", "d.xml", "You have not set an input CD image!");
+    RefusalRow("an image that is no BIN or NRG", "/i/m.cue", "d.xml",
+               "The CD Image has not been recognised as either\rCUE/BIN image type or NRG "
+               "(Nero Burning Rom)!");
+    RefusalRow("a line feed that would run a command", "/i/movie\ntouch pwned\n.bin", "d.xml",
+               "This file name cannot be passed to the tool:\r\r/i/movie?touch pwned?.bin\r\r");
+    RefusalRow("a trailing backslash", "/i/m.bin", "d\\",
+               "This file name cannot be passed to the tool:");
+    RefusalRow("an output folder that does not exist", "/i/m.bin", "gone/d.xml",
+               "The folder does not exist:");
 }
 
 void VcdxripDialogTest::goRefusesInOrder() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QString, message);
-    fakes_.files.names = {input, output.isEmpty() ? output : work_->filePath(output)};
-    dialog_->cmd_input->click();
-    dialog_->cmd_output->click();
-    ExpectRefusal(*dialog_->cmd_rip, dialog_->frame, fakes_.boxes, message, work_->path());
+    PickAndExpectRefusal(fakes_, *dialog_, dialog_->frame, work_->path());
 }
 
 void VcdxripDialogTest::job_data() {
