@@ -22,7 +22,6 @@ private slots:
     void eachButtonShowsItsFile();
     void aMissingFileLeavesJustTheDate();
     void linksOpenTheirAddressesAndKeepTheDialog();
-    void escapePressesTheMailButton();
 
 private:
     void write(const QString& name, const QByteArray& text);
@@ -58,14 +57,6 @@ void AboutTest::eachButtonShowsItsFile_data() {
     QTest::addColumn<QString>("file");
     QTest::newRow("description") << "cmd_description"
                                  << "description";
-    QTest::newRow("requirements") << "cmd_requirements"
-                                  << "requirements";
-    QTest::newRow("changelog") << "cmd_changelog"
-                               << "changelog";
-    QTest::newRow("license") << "cmd_license"
-                             << "license";
-    QTest::newRow("vcdimager") << "cmd_vcdimager"
-                               << "vcdimager";
     QTest::newRow("author") << "cmd_author"
                             << "author";
 }
@@ -103,18 +94,6 @@ void AboutTest::linksOpenTheirAddressesAndKeepTheDialog() {
     QVERIFY(fakes_.desktop.urls[2].startsWith(QStringLiteral("mailto:")));
     QCOMPARE(fakes_.desktop.urls[3], fakes_.desktop.urls[0]);
     QVERIFY(about.isVisible());
-}
-
-void AboutTest::escapePressesTheMailButton() {
-    frmAbout about(fakes_.services, app_->path());
-    about.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&about));
-    QTest::keyClick(&about, Qt::Key_Escape);
-    QVERIFY(about.isVisible());
-    QCOMPARE(fakes_.desktop.urls.size(), 1);
-    QVERIFY(fakes_.desktop.urls[0].startsWith(QStringLiteral("mailto:")));
-    about.cmdOK->click();
-    QVERIFY(!about.isVisible());
 }
 
 QTEST_MAIN(AboutTest)
