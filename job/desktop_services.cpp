@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProcess>
 #include <QUrl>
 
 namespace torvane {
@@ -41,6 +42,24 @@ std::optional<QString> RunFileDialog(QFileDialog::AcceptMode mode, const QString
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return TypedName(dialog);
+}
+
+// The first line a quick xdg-mime query prints, or empty when it fails or takes too long.
+QString AskXdgMime(const QStringList& query) {
+    constexpr int kQueryTimeoutMs = 3000;
+    QProcess process;
+    process.start(QStringLiteral("xdg-mime"), QStringList{QStringLiteral("query")} + query);
+    if (!process.waitForFinished(kQueryTimeoutMs) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0)
+        return QString();
+    return QString::fromLocal8Bit(process.readAllStandardOutput()).section('\n', 0, 0).trimmed();
+}
+
+// xdg-open goes on in the background and reports nothing, so whether some program opens
+// the file is asked of the desktop's own table first.
+bool HasDesktopHandler(const QString& path) {
+    const QString type = AskXdgMime({QStringLiteral("filetype"), path});
+    return !type.isEmpty() && !AskXdgMime({QStringLiteral("default"), type}).isEmpty();
 }
 
 }  // namespace
@@ -89,7 +108,7 @@ std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int fi
 }
 
 bool QtDesktop::openInViewer(const QString& path) {
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    return HasDesktopHandler(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 void QtDesktop::openUrl(const QString& url) {
