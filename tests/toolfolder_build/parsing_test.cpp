@@ -1,5 +1,6 @@
 // The pure parts of the authoring adapters: reading vcdxbuild's --gui output, the split of
-// a build's output between log and console, argument files, and log line ends.
+// a build's output between log and console with its progress figures, argument files,
+// and log line ends.
 
 #include "tools/adapters/authoring/arg_files.h"
 #include "tools/adapters/authoring/build_log.h"
@@ -135,6 +136,14 @@ void AdapterParsingTest::buildOutputIsSplitBetweenLogAndConsole_data() {
                           R"(<log level="Information">u</log>)"}
         << QByteArrayList{"   INFO: i", "--DEBUG: d", "++ WARN: w", "!ASSERT: a", "++ WARN: u"}
         << QByteArray("!ASSERT: a\n");
+    QTest::newRow("honest figures: no size yet, a hundredfold beyond 64 bits, past the size")
+        << QByteArrayList{R"(<progress operation="write" position="7" size="0" />)",
+                          R"(<progress operation="write" position="100000000000000000" )"
+                          R"(size="9223372036854775807" />)",
+                          R"(<progress operation="write" position="18525" size="18476" />)"}
+        << QByteArrayList{}
+        << "\r#write: 7/0 ( 0%)" + wipe + "\r#write: 100000000000000000/9223372036854775807 ( 1%)" +
+               wipe + "\r#write: 18476/18476 (100%)" + wipe + "\n";
 }
 
 void AdapterParsingTest::buildOutputIsSplitBetweenLogAndConsole() {

@@ -2,14 +2,17 @@
 // the dialogs and of the regenerator, on an image copied alone into a folder whose name
 // holds blanks, shell characters, non-ASCII letters, a leading dash and an equal sign.
 // After every run that folder holds just the image, and the adapter's temporary folder
-// is gone.
+// is gone. The discs are those of the shared media; the reference rip of each is what the
+// real vcdxrip gives from its 2352-byte image with its cue sheet.
 
-#include "read_fixture.h"
+#include "shell/mod_general.h"
+#include "tests/support/tool_run.h"
 
 #include <QFile>
-#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
+using namespace torvane;
 using namespace torvane::test;
 
 namespace {
@@ -20,14 +23,6 @@ const QString kS2336 = QStringLiteral("--sector-2336");
 const QByteArray kWarning = "++ WARN: INFO.SVD: signature not found";
 const QByteArray kDone = "   INFO: done";
 const QString kXmlName = QStringLiteral("-videocd été=1.xml");
-
-// The disc type as the regenerator reads it: the text from the start of the line that
-// holds the first " detected" up to it; that line must not be the first.
-QByteArray DiscType(const QByteArray& report) {
-    const int p = report.indexOf(" detected");
-    const int lineEnd = p < 0 ? -1 : report.lastIndexOf("\r\n", p);
-    return lineEnd < 0 ? QByteArray() : report.mid(lineEnd + 2, p - lineEnd - 2);
-}
 
 // A report with LF line ends and without its "Source:" line, which names the file read.
 QByteArray Comparable(QByteArray report) {
@@ -43,10 +38,7 @@ QByteArray RealReport(const QString& cueSheet, const QStringList& switches) {
     QStringList args{"--cue-file=" + cueSheet};
     if (switches.contains(QStringLiteral("-q")))
         args.prepend(QStringLiteral("-q"));
-    QProcess process;
-    process.start(QStringLiteral("/usr/bin/vcd-info"), args);
-    process.waitForFinished();
-    return process.readAllStandardOutput();
+    return RunProgram(QStringLiteral("/usr/bin/vcd-info"), args, {}).out;
 }
 
 }  // namespace
@@ -59,28 +51,28 @@ private slots:
     void cleanup();
     void vcddebugReportsTheDisc_data();
     void vcddebugReportsTheDisc();
-    void vcddebugWarnsWhenTheImageCannotBeRead_data();
-    void vcddebugWarnsWhenTheImageCannotBeRead();
     void vcdxripGivesTheDiscsFiles_data();
     void vcdxripGivesTheDiscsFiles();
-    void vcdxripFailsOnWhatIsNoVcd_data();
-    void vcdxripFailsOnWhatIsNoVcd();
+    void whatCannotBeReadFailsTheJob_data();
+    void whatCannotBeReadFailsTheJob();
+    void vcdxripDescriptorNamesTheUsersImage();
 
 private:
-    AdapterRun run(const QString& adapter, const QString& image, QStringList args);
-    ReadFixture fixture_;
+    ToolRun run(const QString& adapter, const QString& image, QStringList args);
+    QMap<QString, QByteArray> referenceMedia(const QString& disc) const;
+    QTemporaryDir scratch_;
     QString imageFolder_, imageName_, outputFolder_, tmp_;
 };
 
 void ReadTest::initTestCase() {
     QVERIFY(QFile::exists(kVcddebug) && QFile::exists(kVcdxrip));
-    QVERIFY(fixture_.make());
+    QVERIFY(scratch_.isValid());
 }
 
 void ReadTest::init() {
-    imageFolder_ = FreshFolder(fixture_.scratch(), QStringLiteral("dl & co; $HOME |<x>/Ünïcødé"));
-    outputFolder_ = FreshFolder(fixture_.scratch(), QStringLiteral("out $dir; & <x>/_vtools"));
-    tmp_ = FreshFolder(fixture_.scratch(), QStringLiteral("tmp"));
+    imageFolder_ = FreshFolder(scratch_.path(), QStringLiteral("dl & co; $HOME |<x>/Ünïcødé"));
+    outputFolder_ = FreshFolder(scratch_.path(), QStringLiteral("out $dir; & <x>/_vtools"));
+    tmp_ = FreshFolder(scratch_.path(), QStringLiteral("tmp"));
     imageName_ = QStringLiteral("-lost disc=1 ü.bin");
 }
 
@@ -91,12 +83,23 @@ void ReadTest::cleanup() {
 
 // Copies `image` alone into the image folder and runs `adapter` in the output folder with
 // `args` and the image's switch, --nrg-file= for an NRG and --bin-file= for the rest.
-AdapterRun ReadTest::run(const QString& adapter, const QString& image, QStringList args) {
+ToolRun ReadTest::run(const QString& adapter, const QString& image, QStringList args) {
     if (image.endsWith(QLatin1String(".nrg")))
         imageName_.replace(".bin", ".nrg");
-    const QString copy = LoneCopy(fixture_.image(image), imageFolder_, imageName_);
+    const QString copy = imageFolder_ + "/" + imageName_;
+    QFile::copy(Media(image), copy);
     args << (image.endsWith(QLatin1String(".nrg")) ? "--nrg-file=" : "--bin-file=") + copy;
-    return RunAdapter(adapter, args, outputFolder_, tmp_);
+    const QString log = outputFolder_ + "/log.txt";
+    ToolRun result = RunProgram(adapter, args, outputFolder_, log, tmp_);
+    result.out = ReadBytes(log);
+    QFile::remove(log);
+    return result;
+}
+
+QMap<QString, QByteArray> ReadTest::referenceMedia(const QString& disc) const {
+    QMap<QString, QByteArray> media = FilesIn(Media("ref-" + disc));
+    media.remove("ref.xml");
+    return media;
 }
 
 void ReadTest::vcddebugReportsTheDisc_data() {
@@ -115,41 +118,22 @@ void ReadTest::vcddebugReportsTheDisc() {
     QFETCH(QString, image);
     QFETCH(QStringList, switches);
     QFETCH(QByteArray, discType);
-    const AdapterRun result = run(kVcddebug, image, switches);
+    const ToolRun result = run(kVcddebug, image, switches);
     QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
-    QCOMPARE(DiscType(result.log), discType);
-    QCOMPARE(result.log.count('\n'), result.log.count("\r\n"));
-    QVERIFY(!result.log.contains(kWarning));
+    // The regenerator reads the disc type from the line of the first " detected".
+    QVERIFY(result.out.contains("\r\n" + discType + " detected"));
+    QVERIFY(result.out.indexOf(" detected") ==
+            result.out.indexOf(discType + " detected") + discType.size());
+    QCOMPARE(result.out.count('\n'), result.out.count("\r\n"));
+    QVERIFY(!result.out.contains(kWarning));
     // The whole structure, tracks included, as the real tool reports it from the 2352-byte
     // image with its cue sheet; the "Source:" line names the user's file.
-    const QString cue = fixture_.image(image.section('-', 0, 0) + "-2352.cue");
+    const QString cue = Media(image.section('-', 0, 0) + "-2352.cue");
     const QByteArray real = RealReport(cue, switches);
     QVERIFY(real.contains("CD-ROM TRACKS (1 - 2)"));
-    QCOMPARE(Comparable(result.log), Comparable(real));
-    QVERIFY(result.log.contains("Source: image file `" + QFile::encodeName(imageFolder_) + "/" +
+    QCOMPARE(Comparable(result.out), Comparable(real));
+    QVERIFY(result.out.contains("Source: image file `" + QFile::encodeName(imageFolder_) + "/" +
                                 QFile::encodeName(imageName_) + "'"));
-}
-
-void ReadTest::vcddebugWarnsWhenTheImageCannotBeRead_data() {
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QStringList>("switches");
-    QTest::addColumn<QByteArray>("toolEnd");
-    const QByteArray failed = "ended with status";
-    QTest::newRow("2336-byte image read as 2352") << "vcd-2336.bin" << QStringList{"-q"} << failed;
-    QTest::newRow("2336-byte SVCD read as 2352") << "svcd-2336.bin" << QStringList{"-v"} << failed;
-    QTest::newRow("damaged INFO.VCD: vcd-info crashes")
-        << "damaged.bin" << QStringList{"-v"} << QByteArray("ended by signal");
-}
-
-void ReadTest::vcddebugWarnsWhenTheImageCannotBeRead() {
-    QFETCH(QString, image);
-    QFETCH(QStringList, switches);
-    QFETCH(QByteArray, toolEnd);
-    const AdapterRun result = run(kVcddebug, image, switches);
-    QVERIFY2(result.log.contains(kWarning + "\r\n"), result.log.constData());
-    QVERIFY(!result.crashed && result.exitCode != 0);
-    QVERIFY2(result.errors.contains("vcddebug.exe: ") && result.errors.contains(toolEnd),
-             result.errors.constData());
 }
 
 void ReadTest::vcdxripGivesTheDiscsFiles_data() {
@@ -170,37 +154,75 @@ void ReadTest::vcdxripGivesTheDiscsFiles() {
     QFETCH(QStringList, options);
     QFETCH(QString, mediaOf);
     const QString xml = outputFolder_ + "/" + kXmlName;
-    const AdapterRun result = run(kVcdxrip, image,
-                                  options << "-v"
-                                          << "--output-file=" + xml);
+    const ToolRun result = run(kVcdxrip, image,
+                               options << "-v"
+                                       << "--output-file=" + xml);
     QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
-    QVERIFY2(LogPasses(result.log, kDone), result.log.constData());
+    QVERIFY2(LogSucceeded(result.out, kDone), result.out.constData());
     QMap<QString, QByteArray> made = FilesIn(outputFolder_);
     QVERIFY(made.take(kXmlName).contains("<sequence-items>"));
-    const QMap<QString, QByteArray> expected = fixture_.referenceMedia(mediaOf);
+    const QMap<QString, QByteArray> expected = referenceMedia(mediaOf);
     QVERIFY(mediaOf.isEmpty() || expected.contains(QStringLiteral("avseq01.mpg")));
     QCOMPARE(made.keys(), expected.keys());
     QVERIFY(made == expected);
 }
 
-void ReadTest::vcdxripFailsOnWhatIsNoVcd_data() {
+void ReadTest::whatCannotBeReadFailsTheJob_data() {
+    QTest::addColumn<QString>("adapter");
     QTest::addColumn<QString>("image");
     QTest::addColumn<QStringList>("options");
-    QTest::newRow("2336-byte image read as 2352") << "vcd-2336.bin" << QStringList();
-    QTest::newRow("2352-byte image read as 2336") << "svcd-2352.bin" << QStringList{kS2336};
-    QTest::newRow("an MPEG clip") << "vcd.mpg" << QStringList();
-    QTest::newRow("random bytes as 2336") << "random.bin" << QStringList{kS2336};
+    QTest::addColumn<QByteArray>("logged");
+    QTest::addColumn<QByteArray>("toolEnd");
+    const QByteArray status = "ended with status";
+    QTest::newRow("vcddebug: 2336-byte image read as 2352")
+        << kVcddebug << "vcd-2336.bin" << QStringList{"-q"} << kWarning << status;
+    QTest::newRow("vcddebug: 2336-byte SVCD read as 2352")
+        << kVcddebug << "svcd-2336.bin" << QStringList{"-v"} << kWarning << status;
+    QTest::newRow("vcddebug: damaged INFO.VCD, vcd-info crashes")
+        << kVcddebug << "damaged.bin" << QStringList{"-v"} << kWarning
+        << QByteArray("ended by signal");
+    const QStringList xml{"-v", "--output-file=videocd.xml"};
+    QTest::newRow("vcdxrip: 2336-byte image read as 2352")
+        << kVcdxrip << "vcd-2336.bin" << xml << QByteArray() << QByteArray();
+    QTest::newRow("vcdxrip: 2352-byte image read as 2336")
+        << kVcdxrip << "svcd-2352.bin" << xml + QStringList{kS2336} << QByteArray() << QByteArray();
+    QTest::newRow("vcdxrip: an MPEG clip")
+        << kVcdxrip << "clip-vcd.mpg" << xml << QByteArray() << QByteArray();
+    QTest::newRow("vcdxrip: random bytes as 2336")
+        << kVcdxrip << "random.bin" << xml + QStringList{kS2336} << QByteArray() << QByteArray();
 }
 
-void ReadTest::vcdxripFailsOnWhatIsNoVcd() {
+void ReadTest::whatCannotBeReadFailsTheJob() {
+    QFETCH(QString, adapter);
     QFETCH(QString, image);
     QFETCH(QStringList, options);
-    const AdapterRun result = run(kVcdxrip, image,
-                                  options << "-v"
-                                          << "--output-file=videocd.xml");
+    QFETCH(QByteArray, logged);
+    QFETCH(QByteArray, toolEnd);
+    const ToolRun result = run(adapter, image, options);
     QVERIFY(!result.crashed && result.exitCode != 0);
-    QVERIFY2(result.errors.contains("vcdxrip.exe: "), result.errors.constData());
-    QVERIFY(!result.log.contains(kDone));
+    QVERIFY2(result.errors.contains(QFileInfo(adapter).fileName().toUtf8() + ": ") &&
+                 result.errors.contains(toolEnd),
+             result.errors.constData());
+    QVERIFY2(result.out.contains(logged + "\r\n") && !result.out.contains(kDone),
+             result.out.constData());
+}
+
+// The descriptor's comment names the arguments the adapter was given, the user's image
+// among them, not its temporary cue sheet; the rest is what the real tool writes from the
+// disc's own cue sheet.
+void ReadTest::vcdxripDescriptorNamesTheUsersImage() {
+    imageName_ = QStringLiteral("-disc--1.bin");
+    const QStringList args = {"--sector-2336", "-q", "--output-file=" + outputFolder_ + "/v.xml"};
+    const ToolRun result = run(kVcdxrip, "svcd-2336.bin", args);
+    QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
+    QByteArray xml = ReadBytes(outputFolder_ + "/v.xml");
+    QByteArray real = ReadBytes(Media("ref-svcd/ref.xml"));
+    const QByteArray comment = xml.split('\n').value(2);
+    QCOMPARE(xml.replace(comment, ""), real.replace(real.split('\n').value(2), ""));
+    const QString given =
+        (args + QStringList{"--bin-file=" + imageFolder_ + "/" + imageName_}).join(' ');
+    QCOMPARE(comment.mid(comment.indexOf(" -=")),
+             " " + given.toUtf8().replace("--", "-=") + " -->");
 }
 
 QTEST_MAIN(ReadTest)

@@ -1,22 +1,18 @@
-// The real tools through the two dialogs: clips made by ffmpeg, a descriptor made by
-// vcdxgen.exe, an image built by the VCDXBUILD dialog with the subindices removed from its
-// cue sheet, and that image taken apart again by the VCDXRIP dialog into the descriptor
-// and the clips, byte for byte. Once with plain names, once with names that hold blanks,
-// shell characters, a leading dash and non-ASCII letters.
+// The real tools through the two dialogs: a descriptor made by vcdxgen.exe from two clips,
+// an image built by the VCDXBUILD dialog with the subindices removed from its cue sheet,
+// and that image taken apart again by the VCDXRIP dialog into the descriptor and the
+// clips, byte for byte; in folders whose names hold blanks, shell characters, a leading
+// dash and non-ASCII letters.
 
 #include "author/frm_vcdxbuild.h"
 #include "rip/frm_vcdxrip.h"
 #include "shell/frm_mainmenu.h"
-#include "tests/support/fake_services.h"
 #include "tests/support/job_driver.h"
+#include "tests/support/tool_run.h"
 
 #include <QCheckBox>
-#include <QDir>
-#include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -24,174 +20,67 @@ using namespace torvane::test;
 class VcdxbuildVcdxripIntegrationTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void buildThenRipGivesTheClipsBack_data();
     void buildThenRipGivesTheClipsBack();
-
-private:
-    struct Folders {
-        QString source, image, rip;
-    };
-    QString makeDescriptor(const Folders& folders, const QStringList& clipNames,
-                           const QString& xmlName);
-    void build(const QString& xml, const QString& image);
-    void rip(const QString& image, const QString& xml);
-    bool runJob(JobFrame& frame);
-
-    QTemporaryDir work_;
-    QStringList clips_;  // made once, copied under each row's names
-    FakeServices fakes_;
-    std::unique_ptr<frm_mainmenu> menu_;
 };
 
-namespace {
-
-const QString kToolFolder = QStringLiteral(TORVANE_APP_DIR "/VCDImager/");
-
-// The size line the dialog must print back: the tool's own figures, without zeros in front.
-QString SizeLineOfLog(const QByteArray& log) {
-    static const QRegularExpression field(
-        QStringLiteral(R"(finished ok.*\[(\d\d):(\d\d)[:.](\d\d)\]\s*$)"));
-    const QRegularExpressionMatch match = field.match(QString::fromLocal8Bit(log));
-    if (!match.hasMatch())
-        return QStringLiteral("no size field in the log");
-    return QStringLiteral("The image size is: %1 minutes, %2 seconds, %3 sectors.")
-        .arg(match.captured(1).toInt())
-        .arg(match.captured(2).toInt())
-        .arg(match.captured(3).toInt());
-}
-
-}  // namespace
-
-void VcdxbuildVcdxripIntegrationTest::initTestCase() {
-    UseBuiltInterpreter();
-    for (const char* tool : {"vcdxgen.exe", "vcdxbuild.exe", "vcdxrip.exe"})
-        QVERIFY2(QFile::exists(kToolFolder + QLatin1String(tool)), tool);
-    for (const char* seconds : {"2", "3"}) {
-        clips_ << work_.filePath(QStringLiteral("clip%1.mpg").arg(QLatin1String(seconds)));
-        QCOMPARE(
-            QProcess::execute(QStringLiteral(TORVANE_FIXTURES "/make-media"),
-                              {QStringLiteral("ntsc-vcd"), QLatin1String(seconds), clips_.last()}),
-            0);
-    }
-    menu_ = std::make_unique<frm_mainmenu>(fakes_.services, QStringLiteral(TORVANE_APP_DIR));
-}
-
-void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipsBack_data() {
-    QTest::addColumn<QString>("row");  // a folder of its own for each row
-    QTest::addColumn<QStringList>("names");
-    QTest::newRow("plain") << QStringLiteral("plain")
-                           << QStringList{"src",     "img",         "rip",       "one.mpg",
-                                          "two.mpg", "videocd.xml", "image.bin", "disc.xml"};
-    QTest::newRow("blanks, shell characters, non-ASCII")
-        << QStringLiteral("Ünïcødé & co")
-        << QStringList{"src ü & co",    "img; $x <y>",  "rip été |z", "-clip été.mpg",
-                       "zweite Ω'.mpg", "vidéo cd.xml", "bild Ä.bin", "disc ö.xml"};
-}
-
 void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipsBack() {
-    QFETCH(QString, row);
-    QFETCH(QStringList, names);
-    const QString base = work_.filePath(row) + QLatin1Char('/');
-    const Folders folders{base + names[0] + QLatin1Char('/'), base + names[1] + QLatin1Char('/'),
-                          base + names[2] + QLatin1Char('/')};
-    for (const QString& folder : {folders.source, folders.image, folders.rip})
-        QVERIFY(QDir().mkpath(folder));
+    UseBuiltInterpreter();
+    QTemporaryDir work;
+    const QString source = FreshFolder(work.path(), "src ü & co"),
+                  images = FreshFolder(work.path(), "img; $x <y>"),
+                  rip = FreshFolder(work.path(), "rip été |z");
+    const QStringList clips{source + "/-clip été.mpg", source + "/zweite Ω'.mpg"};
+    QVERIFY(QFile::copy(Media("clip-vcd.mpg"), clips[0]) &&
+            QFile::copy(Media("clip-vcd2.mpg"), clips[1]));
+    QVERIFY(WriteBytes(source + "/list.txt", Quoted(clips[0]) + "\r\n" + Quoted(clips[1])));
+    const QString xml = source + "/vidéo cd.xml", image = images + "/bild Ä.bin";
+    QCOMPARE(
+        RunProgram(AppTool("vcdxgen.exe"), {"--output-file=" + xml, "@list.txt"}, source).exitCode,
+        0);
 
-    const QString xml = makeDescriptor(folders, {names[3], names[4]}, names[5]);
-    QVERIFY(QFile::exists(xml));
-    const QString image = folders.image + names[6];
-    build(xml, image);
-    if (QTest::currentTestFailed())
-        return;
-    rip(image, folders.rip + names[7]);
-    if (QTest::currentTestFailed())
-        return;
-
-    // One media file per track, each byte for byte its source clip.
-    const QByteArray ripped = ReadFile(folders.rip + names[7]);
-    QVERIFY2(ripped.contains("<sequence-items>"), ripped.constData());
-    QCOMPARE(ReadFile(folders.rip + QStringLiteral("avseq01.mpg")), ReadFile(clips_[0]));
-    QCOMPARE(ReadFile(folders.rip + QStringLiteral("avseq02.mpg")), ReadFile(clips_[1]));
-    QVERIFY(!QFile::exists(folders.rip + QStringLiteral("avseq03.mpg")));
-}
-
-QString VcdxbuildVcdxripIntegrationTest::makeDescriptor(const Folders& folders,
-                                                        const QStringList& clipNames,
-                                                        const QString& xmlName) {
-    QByteArray list;
-    for (int i = 0; i < clipNames.size(); ++i) {
-        const QString clip = folders.source + clipNames[i];
-        QFile::remove(clip);
-        if (!QFile::copy(clips_[i], clip))
-            return {};
-        list += (i ? "\r\n\"" : "\"") + QFile::encodeName(clip) + '"';
-    }
-    QFile listFile(folders.source + QStringLiteral("list.txt"));
-    if (!listFile.open(QIODevice::WriteOnly))
-        return {};
-    listFile.write(list);
-    listFile.close();
-
-    const QString xml = folders.source + xmlName;
-    QProcess vcdxgen;
-    vcdxgen.setWorkingDirectory(folders.source);
-    vcdxgen.start(kToolFolder + QStringLiteral("vcdxgen.exe"),
-                  {QStringLiteral("--output-file=") + xml, QStringLiteral("@list.txt")});
-    vcdxgen.waitForFinished(kJobStepTimeoutMs);
-    return xml;
-}
-
-bool VcdxbuildVcdxripIntegrationTest::runJob(JobFrame& frame) {
-    if (!WaitForPause(frame))
-        return false;
-    fakes_.boxes.answers = {vbNo};
-    PressKeyInConsole(frame);
-    return WaitForIdle(frame);
-}
-
-void VcdxbuildVcdxripIntegrationTest::build(const QString& xml, const QString& image) {
-    auto* dialog = qobject_cast<frm_vcdxbuild*>(menu_->openTool(QStringLiteral("vcdxbuild")));
-    QVERIFY(dialog);
-    fakes_.boxes.shown.clear();
-    fakes_.files.names = {xml, image};
-    dialog->cmd_input->click();
-    dialog->cmd_output->click();
-    dialog->chk_subindex->click();
-    dialog->cmd_rip->click();
-    QVERIFY(runJob(dialog->frame));
-
-    const QString folder = QFileInfo(image).path() + QLatin1Char('/');
-    const QByteArray log = ReadFile(folder + QStringLiteral("log.txt"));
-    QCOMPARE(fakes_.boxes.shown.size(), 1u);
-    QCOMPARE(fakes_.boxes.shown[0].text,
-             QStringLiteral("The process has finished successfully!\r\r") + SizeLineOfLog(log) +
-                 QStringLiteral("\r\rIt should fit on a 21min/180MB (8 cm) CD-R disc.\r\r"
-                                "Do you want to read the log file?"));
-    QVERIFY(QFileInfo(image).size() > 0);
-    const QByteArray cue = ReadFile(folder + QFileInfo(image).completeBaseName() + ".cue");
+    FakeServices fakes;
+    frm_mainmenu menu(fakes.services, QStringLiteral(TORVANE_APP_DIR));
+    auto* build = qobject_cast<frm_vcdxbuild*>(menu.openTool("vcdxbuild"));
+    QVERIFY(build);
+    fakes.files.names = {xml, image};
+    build->cmd_input->click();
+    build->cmd_output->click();
+    build->chk_subindex->click();
+    QVERIFY(RunJobToIdle(*build->cmd_rip, build->frame, fakes.boxes, vbNo));
+    // The size printed back is the tool's own, without zeros in front.
+    const QRegularExpressionMatch size =
+        QRegularExpression(R"(finished ok.*\[(\d\d):(\d\d):(\d\d)\]\s*$)")
+            .match(QString::fromUtf8(ReadBytes(images + "/log.txt")));
+    QVERIFY(size.hasMatch());
+    QCOMPARE(fakes.boxes.shown.size(), 1u);
+    QCOMPARE(fakes.boxes.shown[0].text,
+             QStringLiteral("The process has finished successfully!\r\rThe image size is: %1 "
+                            "minutes, %2 seconds, %3 sectors.\r\rIt should fit on a 21min/180MB "
+                            "(8 cm) CD-R disc.\r\rDo you want to read the log file?")
+                 .arg(size.captured(1).toInt())
+                 .arg(size.captured(2).toInt())
+                 .arg(size.captured(3).toInt()));
+    const QByteArray cue = ReadBytes(images + "/bild Ä.cue");
     QCOMPARE(cue.count("    INDEX 01 "), 3);
     QVERIFY2(!cue.contains("FLAGS DCP") && !cue.contains("INDEX 02"), cue.constData());
-    QVERIFY(!QFile::exists(QFileInfo(xml).path() + QStringLiteral("/run.bat")));
-    QVERIFY(dialog->close());
-}
+    QVERIFY(!QFile::exists(source + "/run.bat") && build->close());
 
-void VcdxbuildVcdxripIntegrationTest::rip(const QString& image, const QString& xml) {
-    auto* dialog = qobject_cast<frm_vcdxrip*>(menu_->openTool(QStringLiteral("vcdxrip")));
-    QVERIFY(dialog);
-    fakes_.boxes.shown.clear();
-    fakes_.files.names = {image, xml};
-    dialog->cmd_input->click();
-    dialog->cmd_output->click();
-    dialog->cmd_rip->click();
-    QVERIFY(runJob(dialog->frame));
-
-    QCOMPARE(fakes_.boxes.shown.size(), 1u);
-    QCOMPARE(fakes_.boxes.shown[0].text,
+    auto* ripper = qobject_cast<frm_vcdxrip*>(menu.openTool("vcdxrip"));
+    QVERIFY(ripper);
+    fakes.boxes.shown.clear();
+    fakes.files.names = {image, rip + "/disc ö.xml"};
+    ripper->cmd_input->click();
+    ripper->cmd_output->click();
+    QVERIFY(RunJobToIdle(*ripper->cmd_rip, ripper->frame, fakes.boxes, vbNo));
+    QCOMPARE(fakes.boxes.shown.size(), 1u);
+    QCOMPARE(fakes.boxes.shown[0].text,
              QStringLiteral(
                  "The process has finished successfully!\r\rDo you want to read the log file?"));
-    QVERIFY(!QFile::exists(QFileInfo(xml).path() + QStringLiteral("/run.bat")));
-    QVERIFY(dialog->close());
+    QVERIFY(ReadBytes(rip + "/disc ö.xml").contains("<sequence-items>"));
+    QVERIFY(ReadBytes(rip + "/avseq01.mpg") == ReadBytes(clips[0]));
+    QVERIFY(ReadBytes(rip + "/avseq02.mpg") == ReadBytes(clips[1]));
+    QVERIFY(!QFile::exists(rip + "/avseq03.mpg") && !QFile::exists(rip + "/run.bat"));
+    QVERIFY(ripper->close());
 }
 
 QTEST_MAIN(VcdxbuildVcdxripIntegrationTest)

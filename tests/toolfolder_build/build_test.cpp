@@ -1,0 +1,254 @@
+// The authoring adapters on the shared media, started by the job script lines that their
+// dialogs write, in folders whose names hold blanks, shell characters, markup and non-ASCII
+// letters: the log passes the dialog's success test, the size it reports is the image's,
+// and exactly the expected files are made.
+
+#include "shell/image_size_report.h"
+#include "shell/mod_general.h"
+#include "tests/support/tool_run.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+#include <QtEndian>
+
+using namespace torvane;
+using namespace torvane::test;
+
+namespace {
+
+int Sectors(const ImageSize& size) {
+    return (size.minutes * 60 + size.seconds) * 75 + size.sectors;
+}
+
+int Captured(const QRegularExpression& pattern, const QByteArray& text) {
+    return pattern.match(QString::fromUtf8(text)).captured(1).toInt();
+}
+
+// The src of every sequence item of a descriptor, in order.
+QStringList SequenceSources(const QByteArray& xml) {
+    QStringList sources;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd())
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("sequence-item"))
+            sources << reader.attributes().value(QLatin1String("src")).toString();
+    return sources;
+}
+
+}  // namespace
+
+class BuildToolsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void vcdxbuildMakesTheImage_data();
+    void vcdxbuildMakesTheImage();
+    void listToolsTakeTheListedFiles_data();
+    void listToolsTakeTheListedFiles();
+    void cdxa2mpegGivesThePlainStream();
+
+private:
+    QString in(const QString& name) const { return in_ + "/" + name; }
+    QTemporaryDir work_;
+    QString in_, toolFolder_;
+};
+
+void BuildToolsTest::initTestCase() {
+    QVERIFY(work_.isValid());
+    in_ = FreshFolder(work_.path(), QStringLiteral("proj ü & co; $x"));
+    toolFolder_ = FreshFolder(work_.path(), QStringLiteral("app dir/VCDImager"));
+    for (const QString name : {"vcdxgen.exe", "vcdimager.exe"})
+        QVERIFY(QFile::copy(AppTool(name), toolFolder_ + "/" + name));
+    // The folder's name and the clip's together hold "</log>" in the middle of the path.
+    QVERIFY(QDir().mkpath(in("a & <b> &amp; c<")));
+    for (const QString name : {"clip one.mpg", "a & <b> &amp; c</log>.mpg"})
+        QVERIFY(QFile::copy(Media("clip-vcd.mpg"), in(name)));
+    QVERIFY(QFile::copy(Media("clip-svcd.mpg"), in("Süper (svcd).mpg")));
+    QVERIFY(QFile::copy(Media("clip-vcd.mpg"), toolFolder_ + "/-lead.mpg"));
+    QCOMPARE(RunProgram("/usr/bin/vcdxgen",
+                        {"--type=vcd2", "--output-file=vcd.xml", "clip one.mpg",
+                         in("a & <b> &amp; c</log>.mpg")},
+                        in_)
+                 .exitCode,
+             0);
+    QCOMPARE(RunProgram("/usr/bin/vcdxgen",
+                        {"--type=svcd", "--output-file=svcd.xml", "Süper (svcd).mpg"}, in_)
+                 .exitCode,
+             0);
+}
+
+void BuildToolsTest::vcdxbuildMakesTheImage_data() {
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<QByteArray>("switches");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("base");  // the output name less ".bin", ".cue" or ".toc"
+    QTest::newRow("CUE/BIN") << "vcd.xml" << QByteArray(" -v ") << "img out é"
+                             << "movie";
+    QTest::newRow("CUE/BIN of 2336-byte sectors, shell characters")
+        << "svcd.xml" << QByteArray("--sector-2336 -v ") << "img $HOME; & <x> |y"
+        << "-movie (1)";
+    QTest::newRow("CDRDAO/TOC of 2336-byte sectors")
+        << "svcd.xml" << QByteArray("--sector-2336 -v --image-type=cdrdao") << "toc 2336"
+        << "m";
+    QTest::newRow("a missing project: a failed log, no image")
+        << "no such & <project>.xml" << QByteArray(" -v ") << "missing"
+        << "x";
+}
+
+void BuildToolsTest::vcdxbuildMakesTheImage() {
+    QFETCH(QString, project);
+    QFETCH(QByteArray, switches);
+    QFETCH(QString, folder);
+    QFETCH(QString, base);
+    const QString out = FreshFolder(work_.path(), folder), stem = out + "/" + base;
+    const bool toc = switches.contains("cdrdao");
+    const QByteArray files = toc ? " --cdrdao-file=" + Quoted(stem)
+                                 : "--image-type=bincue --cue-file=" + Quoted(stem + ".cue") +
+                                       " --bin-file=" + Quoted(stem + ".bin");
+    const ToolRun run =
+        RunScriptLine(Quoted(AppTool("vcdxbuild.exe ")) + " " + switches + " " + files + "  " +
+                          Quoted(in(project)) + " > " + Quoted(out + "/log.txt"),
+                      in_);
+    QVERIFY(run.finished);
+    const QByteArray log = ReadBytes(out + "/log.txt"), last = LastLine(log);
+    QStringList made = QDir(out).entryList(QDir::Files);
+    if (!QFile::exists(in(project))) {
+        QVERIFY(!LogSucceeded(log, "   INFO: finished ok"));
+        QVERIFY2(log.contains("++ WARN: error while parsing file `" + in(project).toUtf8() + "'"),
+                 log.constData());
+        QVERIFY2(run.errors.contains("vcdxbuild.exe: vcdxbuild ended with status"),
+                 run.errors.constData());
+        QCOMPARE(made, QStringList{"log.txt"});
+        return;
+    }
+    QVERIFY2(LogSucceeded(log, "   INFO: finished ok"), last.constData());
+    QVERIFY2(!log.contains("<log ") && !log.contains("#write"), log.right(300).constData());
+    const int sectors = Captured(QRegularExpression("created with (\\d+) sectors \\[\\d\\d:\\d\\d:"
+                                                    "\\d\\d\\]$"),
+                                 last);
+    QVERIFY2(sectors > 0, last.constData());
+    QCOMPARE(Sectors(SizeAtLineEnd(last)), sectors);
+    // The progress stays on the console, and ends at the size.
+    QVERIFY2(QRegularExpression("#write: (\\d+)/\\1 \\(100%\\)")
+                 .match(QString::fromUtf8(run.errors))
+                 .hasMatch(),
+             run.errors.right(300).constData());
+    qint64 imageBytes = 0;
+    for (const QFileInfo& file : QDir(out).entryInfoList({"*.bin", "*.img"}, QDir::Files))
+        imageBytes += file.size();
+    QCOMPARE(imageBytes, qint64(sectors) * (switches.contains("2336") ? 2336 : 2352));
+    made.removeIf([](const QString& name) { return name.endsWith(".img"); });
+    QStringList expected{"log.txt"};
+    expected << (toc ? QStringList{base + ".toc"} : QStringList{base + ".bin", base + ".cue"});
+    expected.sort();
+    QCOMPARE(made, expected);
+    if (project == QLatin1String("vcd.xml")) {
+        QVERIFY2(log.contains("\r\n--DEBUG: adding sequence #0, " +
+                              in("a & <b> &amp; c</log>.mpg").toUtf8() + "\r\n"),
+                 log.constData());
+        // CR LF line ends and the indentation that the subindex remover matches.
+        const QByteArray cue = ReadBytes(stem + ".cue");
+        QVERIFY2(cue.startsWith("FILE " + Quoted(stem + ".bin") + " BINARY\r\n"), cue.constData());
+        QCOMPARE(cue.count('\n'), cue.count("\r\n"));
+        const QByteArray stripped = RemoveSubindices(cue);
+        QVERIFY(cue.contains("\r\n    FLAGS DCP\r\n") && !stripped.contains("FLAGS"));
+        QCOMPARE(stripped.count("\r\n    INDEX 01 "), cue.count("\r\n  TRACK "));
+    }
+}
+
+// The list as the VCDXGEN and VCDIMAGER dialogs write it into the tool folder, where the
+// job runs: one double-quoted path a line, CR LF between lines, none after the last.
+void BuildToolsTest::listToolsTakeTheListedFiles_data() {
+    QTest::addColumn<QByteArray>("line");  // less the list and the log
+    QTest::addColumn<QStringList>("listed");
+    QTest::addColumn<QStringList>("described");  // by vcdxgen; none: vcdimager's image
+    QTest::addColumn<int>("sectorSize");
+    const QString one = in("clip one.mpg"), two = in("a & <b> &amp; c</log>.mpg");
+    const QByteArray gen =
+        "vcdxgen.exe  -v  --type=vcd2 -l VIDEOCD --info-album-id=MYVCD "
+        "--volume-count=1 --volume-number=1 --output-file=" +
+        Quoted(work_.filePath("video cd é.xml"));
+    const QByteArray image =
+        " -l VIDEOCD --info-album-id=MYVCD --volume-count=1 "
+        "--volume-number=1 --cue-file=" +
+        Quoted(work_.filePath("my movie ü.cue")) +
+        " --bin-file=" + Quoted(work_.filePath("my movie ü.bin"));
+    QTest::newRow("vcdxgen: three files, in list order")
+        << gen << QStringList{two, one, two} << QStringList{two, one, two} << 0;
+    QTest::newRow("vcdxgen: a relative name with a leading dash is a file, not a switch")
+        << gen << QStringList{"-lead.mpg", one} << QStringList{"./-lead.mpg", one} << 0;
+    QTest::newRow("vcdimager: VCD 2.0, two files")
+        << "vcdimager.exe  -v  --type=vcd2" + image << QStringList{one, two} << QStringList()
+        << 2352;
+    QTest::newRow("vcdimager: SVCD, 2336-byte sectors, scan offsets")
+        << "vcdimager.exe --sector-2336 --update-scan-offsets -v  --type=svcd" + image
+        << QStringList{in("Süper (svcd).mpg")} << QStringList() << 2336;
+}
+
+void BuildToolsTest::listToolsTakeTheListedFiles() {
+    QFETCH(QByteArray, line);
+    QFETCH(QStringList, listed);
+    QFETCH(QStringList, described);
+    QFETCH(int, sectorSize);
+    QByteArrayList list;
+    for (const QString& path : listed)
+        list << Quoted(path);
+    QVERIFY(WriteBytes(toolFolder_ + "/list.txt", list.join("\r\n")));
+    const QString log = work_.filePath("log.txt");
+    QVERIFY(RunScriptLine(line + " @list.txt > " + Quoted(log), toolFolder_).finished);
+    const QByteArray text = ReadBytes(log), last = LastLine(text);
+    if (!sectorSize) {
+        QVERIFY2(text.startsWith("(Super) VideoCD xml description created successfully") &&
+                     text.endsWith("\r\n"),
+                 text.constData());
+        QCOMPARE(SequenceSources(ReadBytes(work_.filePath("video cd é.xml"))), described);
+        return;
+    }
+    QVERIFY2(LogSucceeded(text, "finished ok"), text.constData());
+    const int sectors = Captured(
+        QRegularExpression("^finished ok, image created with (\\d+) sectors \\[\\d\\d:"), last);
+    QVERIFY2(sectors > 0, last.constData());
+    QCOMPARE(Sectors(SizeAtFirstBracket(last)), sectors);
+    QCOMPARE(QFileInfo(work_.filePath("my movie ü.bin")).size(), qint64(sectors) * sectorSize);
+    QCOMPARE(ReadBytes(work_.filePath("my movie ü.cue")).count("  TRACK "), listed.size() + 1);
+}
+
+// cdxa2mpeg.exe runs Debian's tool unchanged. Its input is the MPEG track of the VCD image
+// as Windows shows a file copied off a disc: a RIFF/CDXA header, then the raw sectors.
+void BuildToolsTest::cdxa2mpegGivesThePlainStream() {
+    constexpr int kRaw = 2352, kSubmodeAt = 18, kDataAt = 24, kForm2 = 2324;
+    const QByteArray image = ReadBytes(Media("vcd-2352.bin"));
+    const QRegularExpressionMatch start =
+        QRegularExpression("TRACK 02.*?INDEX 01 (\\d\\d):(\\d\\d):(\\d\\d)",
+                           QRegularExpression::DotMatchesEverythingOption)
+            .match(QString::fromLatin1(ReadBytes(Media("vcd-2352.cue"))));
+    QVERIFY(start.hasMatch());
+    const int first = (start.captured(1).toInt() * 60 + start.captured(2).toInt()) * 75 +
+                      start.captured(3).toInt();
+    const QByteArray raw = image.mid(qint64(first) * kRaw);
+    // The stream is the Form 2 data of every sector whose submode marks video, audio or data.
+    QByteArray payload;
+    for (qint64 at = 0; at + kRaw <= raw.size(); at += kRaw)
+        if (quint8(raw[at + kSubmodeAt]) & 0x0E)
+            payload += raw.mid(at + kDataAt, kForm2);
+    QVERIFY(payload.size() > 100 * kForm2);
+    QByteArray fmt(16, '\0');
+    fmt.replace(4, 4, QByteArray("\x15\x55XA", 4));
+    QByteArray riff = "RIFF" + QByteArray(4, '\0') + "CDXAfmt " + QByteArray("\x10\0\0\0", 4) +
+                      fmt + "data" + QByteArray(4, '\0') + raw;
+    qToLittleEndian<quint32>(riff.size() - 8, riff.data() + 4);
+    qToLittleEndian<quint32>(raw.size(), riff.data() + 40);
+    QVERIFY(WriteBytes(in("AVSEQ01.DAT"), riff));
+
+    const QString out = FreshFolder(work_.path(), QStringLiteral("plain ü; & |x"));
+    const QByteArray line = Quoted(AppTool("cdxa2mpeg.exe")) + " " + Quoted(in("AVSEQ01.DAT")) +
+                            " " + Quoted(out + "/-plain.mpg");
+    QVERIFY(RunScriptLine(line, out).finished);
+    QVERIFY(ReadBytes(out + "/-plain.mpg") == payload);
+}
+
+QTEST_GUILESS_MAIN(BuildToolsTest)
+#include "build_test.moc"
