@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <cstdlib>
 
 namespace torvane {
 
@@ -32,9 +33,21 @@ mode_t ModeFor(const std::string& path) {
     return 0666 & ~mask;
 }
 
+// A symbolic link stays a link: the file it leads to is the one replaced, in its own
+// folder, so that the rename never crosses a file system.
+std::string ResolvedTarget(const std::string& path) {
+    char* real = realpath(path.c_str(), nullptr);
+    if (!real)
+        return path;
+    std::string target(real);
+    free(real);
+    return target;
+}
+
 }  // namespace
 
-int ReplaceFileContents(const std::string& path, std::string_view bytes) {
+int ReplaceFileContents(const std::string& given_path, std::string_view bytes) {
+    const std::string path = ResolvedTarget(given_path);
     std::string temporary = path + ".XXXXXX";
     const int fd = mkstemp(temporary.data());
     if (fd < 0)
