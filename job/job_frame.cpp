@@ -1,12 +1,10 @@
 #include "job/job_frame.h"
 
-#include "job/job_paths.h"
-#include "platform/replace_file.h"
+#include "job/job_start.h"
 
 #include <QDir>
 #include <QFile>
 #include <QWidget>
-#include <cstring>
 
 namespace torvane {
 
@@ -42,17 +40,8 @@ bool JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
     extraFiles_ = extraFiles;
     // The job folder was checked at Go; a job that then fails shows in its log.
     QDir::setCurrent(plan.jobDir);
-    DeleteFile(script_path);
-    // Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
-    const QByteArray script = JoinScriptLines(plan.scriptLines).toLocal8Bit();
-    if (const int error =
-            ReplaceFileContents(QFile::encodeName(script_path).toStdString(),
-                                std::string_view(script.constData(), script.size()))) {
-        const QString reason = QString::fromLocal8Bit(std::strerror(error));
-        // No script, no job: the console would wait forever for an end marker.
-        InformationBox(services_.boxes, QStringLiteral("Information"),
-                       QStringLiteral("The job script could not be written:\r\r") +
-                           ShownPath(script_path) + QStringLiteral("\r\r") + reason);
+    if (const QString failure = WriteJobScript(plan); !failure.isEmpty()) {
+        InformationBox(services_.boxes, QStringLiteral("Information"), failure);
         abandonJob();
         return false;
     }
@@ -73,7 +62,7 @@ void JobFrame::Timer1_Timer() {
 
 void JobFrame::startConsole() {
     try {
-        console = std::make_unique<CConsole>(&services_.boxes);
+        console = StartJobConsole(services_.boxes, consoleTitle_, script_path);
     } catch (const ConsoleError& error) {
         // No console, no job: say why and come back to Idle.
         Timer1.setEnabled(false);
@@ -81,12 +70,6 @@ void JobFrame::startConsole() {
         abandonJob();
         return;
     }
-    console->setTitle(consoleTitle_);
-    console->setForeColor(2);
-    console->setForeIntense(true);
-    // By its full path: only the script just written may run, never one of the same name
-    // that the interpreter would find elsewhere.
-    console->StartApp(script_path);
     dialog_.showMinimized();
     Timer1.Tag = QStringLiteral("1");
     Timer1.setInterval(kPollMs);
@@ -135,11 +118,7 @@ void JobFrame::deleteJobFiles() {
 bool JobFrame::Form_Unload() {
     if (job_running != -1)
         return true;
-    const int answer =
-        ConfirmationBox(services_.boxes, QStringLiteral("Information"),
-                        QStringLiteral("The command is still running!  Are you") +
-                            QLatin1Char('\r') + QStringLiteral("sure that you want to quit?"));
-    if (answer == vbNo)
+    if (!ConfirmQuitWhileRunning(services_.boxes))
         return false;
     // The job ends with the dialog; the user's files are not touched.
     Timer1.setEnabled(false);

@@ -1,5 +1,6 @@
 #include "shell/tool_dialogs.h"
 
+#include "additional/frm_regen.h"
 #include "additional/frm_subindex.h"
 #include "author/frm_vcdxbuild.h"
 #include "inspect/frm_vcdxminfo.h"
@@ -26,6 +27,7 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
         {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},
+        {QStringLiteral("regen"), Factory<frm_regen>()},
     };
     return factories;
 }

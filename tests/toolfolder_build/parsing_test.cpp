@@ -1,11 +1,9 @@
 // The pure parts of the authoring adapters: reading vcdxbuild's --gui output, the split of
-// a build's output between log and console with its progress figures, argument files,
-// and log line ends.
+// a build's output between log and console with its progress figures, argument files.
 
 #include "tools/adapters/authoring/arg_files.h"
 #include "tools/adapters/authoring/build_log.h"
 #include "tools/adapters/authoring/gui_log.h"
-#include "tools/adapters/authoring/log_output.h"
 #include "tools/adapters/authoring/tool_capture.h"
 
 #include <QTest>
@@ -60,8 +58,6 @@ private slots:
     void buildOutputIsSplitBetweenLogAndConsole();
     void argumentFilesAreExpanded_data();
     void argumentFilesAreExpanded();
-    void logLinesEndInCrLf_data();
-    void logLinesEndInCrLf();
     void linesSurviveAnySplitOfTheOutput();
 };
 
@@ -95,12 +91,9 @@ void AdapterParsingTest::guiOutputIsRead_data() {
         << QByteArrayList{"progress write [] 4294967296/8589934592"};
     QTest::newRow("lines that are no element pass as they are")
         << QByteArrayList{"Usage: vcdxbuild [OPTION...] <xml-control-file>", "",
-                          "<log level=\"debug"}
-        << QByteArrayList{"plain: Usage: vcdxbuild [OPTION...] <xml-control-file>",
-                          "plain: ", "plain: <log level=\"debug"};
-    QTest::newRow("an unfinished progress element is plain text")
-        << QByteArrayList{R"(<progress operation="scan" id="s)"}
-        << QByteArrayList{R"(plain: <progress operation="scan" id="s)"};
+                          "<log level=\"debug", R"(<progress operation="scan" id="s)"}
+        << QByteArrayList{"plain: Usage: vcdxbuild [OPTION...] <xml-control-file>", "plain: ",
+                          "plain: <log level=\"debug", R"(plain: <progress operation="scan" id="s)"};
 }
 
 void AdapterParsingTest::guiOutputIsRead() {
@@ -210,21 +203,6 @@ void AdapterParsingTest::argumentFilesAreExpanded() {
         got << B(arg);
     QCOMPARE(got, expanded);
     QCOMPARE(B(expansion.error), error);
-}
-
-void AdapterParsingTest::logLinesEndInCrLf_data() {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QByteArray>("written");
-    QTest::newRow("a plain line") << QByteArray("finished ok") << QByteArray("finished ok\r\n");
-    QTest::newRow("a line end inside") << QByteArray("a\nb") << QByteArray("a\r\nb\r\n");
-    QTest::newRow("a CR LF inside is not doubled")
-        << QByteArray("a\r\nb") << QByteArray("a\r\nb\r\n");
-}
-
-void AdapterParsingTest::logLinesEndInCrLf() {
-    QFETCH(QByteArray, line);
-    QFETCH(QByteArray, written);
-    QCOMPARE(B(AsLogLine(S(line))), written);
 }
 
 // Pipe reads can end anywhere, even between CR and LF; the lines come out the same.

@@ -1,0 +1,325 @@
+#include "additional/frm_regen.h"
+
+#include "job/form_support.h"
+#include "job/job_paths.h"
+#include "job/job_start.h"
+#include "job/tool_form.h"
+#include "shell/frm_mainmenu.h"
+#include "shell/mod_general.h"
+#include "shell/mod_mainmenu.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace torvane {
+
+namespace {
+
+const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
+const QString kInformation = QStringLiteral("Information");
+const QString kConsoleTitle = QStringLiteral("Torvane -- CUE/BIN Regenerator Tool");
+const QString kWorking = QStringLiteral("Working...");
+const QString kSuccess = QStringLiteral("Success!");
+const QString kFailed = QStringLiteral("Failed!");
+// The next stage first fires shortly after the hand-over; the polls follow four times a
+// second.
+constexpr int kHandOverMs = 100;
+constexpr int kPollMs = 250;
+constexpr QDir::Filters kPlainFiles = QDir::Files | QDir::Hidden | QDir::System;
+
+void HandOver(JobTimer& from, JobTimer& to) {
+    from.setEnabled(false);
+    from.Tag.clear();
+    to.Tag = QStringLiteral("0");
+    to.setEnabled(true);
+    to.setInterval(kHandOverMs);
+}
+
+}  // namespace
+
+frm_regen::frm_regen(frm_mainmenu& menu, Services& services)
+    : QWidget(nullptr, Qt::Window), menu_(menu), services_(services) {
+    setObjectName(QStringLiteral("frm_regen"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("CUE/BIN Regenerator - Torvane"));
+    buildControls();
+    connect(&Timer1, &JobTimer::Timer, this, &frm_regen::Timer1_Timer);
+    connect(&Timer2, &JobTimer::Timer, this, &frm_regen::Timer2_Timer);
+    connect(&Timer3, &JobTimer::Timer, this, &frm_regen::Timer3_Timer);
+    connect(&Timer4, &JobTimer::Timer, this, &frm_regen::Timer4_Timer);
+    Form_Load();
+}
+
+frm_regen::~frm_regen() = default;
+
+void frm_regen::buildControls() {
+    ToolForm form(*this);
+    lbl_input = form.label(
+        "lbl_input", "Load the source BIN file:", "Specify the BIN file you want to regenerate");
+    txt_input = form.pathBox("txt_input", "Specify the name and path of the source bin file");
+    cmd_input = form.button("cmd_input", "Browse...", "Browse for the BIN file");
+    form.addPathRow(lbl_input, txt_input, cmd_input);
+    lbl_output = form.label("lbl_output", "Save the destination BIN file:",
+                            "Specify the destination \"regenerated\" CUE/BIN image");
+    txt_output = form.pathBox("txt_output", "Specify the output BIN filename");
+    cmd_output = form.button("cmd_output", "Browse...", "Browse for the output BIN filename");
+    form.addPathRow(lbl_output, txt_output, cmd_output);
+    Frame1 = form.descriptionFrame(
+        "What does CUE/BIN Regenerator do?",
+        "CUE/BIN Regenerator is to tool that creates a new CUE/BIN image of a (S)VCD only from "
+        "an exisiting BIN file.  This tool is useful if you happen to download an image of a "
+        "VCD where the CUE file is missing or damaged.  It allows you to recreate a working "
+        "image, ready for recording.",
+        QStyle::SP_BrowserReload);
+    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
+    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
+    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
+    form.addCommandRow(cmd_rip, cmd_cancel, nullptr, QStyle::SP_FileDialogInfoView);
+    form.finish({cmd_input, cmd_output, cmd_rip, cmd_cancel});
+
+    connect(cmd_input, &QPushButton::clicked, this,
+            [this] { Browse(services_.files, BrowseKind::Open, kBinFilter, *txt_input); });
+    connect(cmd_output, &QPushButton::clicked, this,
+            [this] { Browse(services_.files, BrowseKind::Save, kBinFilter, *txt_output); });
+    connect(cmd_rip, &QPushButton::clicked, this, &frm_regen::cmd_rip_Click);
+    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    MakeCancelButton(*this, *cmd_cancel);
+}
+
+void frm_regen::Form_Load() {
+    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    crlf = QStringLiteral("\r\n");
+    Timer1.setEnabled(false);
+    Timer2.setEnabled(false);
+    Timer3.setEnabled(false);
+    job_running = false;
+}
+
+RegenInputs frm_regen::inputs() const {
+    return {txt_input->text(), txt_output->text(), tool_folder, QChar(kPathSeparator)};
+}
+
+void frm_regen::setControlsEnabled(bool enabled) {
+    for (QWidget* control : std::initializer_list<QWidget*>{txt_input, txt_output, cmd_input,
+                                                            cmd_output, cmd_rip, cmd_cancel})
+        control->setEnabled(enabled);
+}
+
+void frm_regen::cmd_rip_Click() {
+    output_path.clear();
+    input_path.clear();
+    output_dir.clear();
+    const RegenInputs in = inputs();
+    if (!GoMayProceed(services_.boxes, RegenValidation(in), {in.input, in.output},
+                      {RegenOutputDir(in)}))
+        return;
+    // The tools would only say that it is no disc; say what it is instead.
+    if (!QFileInfo(in.input).isFile() || !QFileInfo(in.input).isReadable()) {
+        InformationBox(services_.boxes, kInformation,
+                       QStringLiteral("The BIN file could not be read:\r\r") + ShownPath(in.input));
+        return;
+    }
+    if (RegenAsksOverwrite(in) &&
+        ConfirmationBox(services_.boxes, kInformation, RegenOverwriteQuestion()) == vbNo)
+        return;
+    output_path = in.output;
+    input_path = in.input;
+    output_dir = RegenOutputDir(in);
+    log_path = output_dir + QStringLiteral("log.txt");
+    sector_2336 = 0;
+    workRecorded_ = false;
+    setControlsEnabled(false);
+    showMinimized();
+    status = std::make_unique<frm_regen_status>();
+    status->show();
+    Timer1.setEnabled(true);
+    Timer1.Tag = QStringLiteral("0");
+    Timer1.setInterval(kHandOverMs);
+    job_running = true;
+}
+
+// The stage job start that every stage and both attempts of stage 1 share. A job that
+// cannot start ends the run at this stage, in words.
+bool frm_regen::startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan) {
+    script_path = plan.scriptPath;
+    QDir::setCurrent(plan.jobDir);
+    if (const QString failure = WriteJobScript(plan); !failure.isEmpty()) {
+        endRun(timer, stage, kFailed, failure);
+        return false;
+    }
+    try {
+        console = StartJobConsole(services_.boxes, kConsoleTitle, script_path);
+    } catch (const ConsoleError& error) {
+        endRun(timer, stage, kFailed, error.description);
+        return false;
+    }
+    status->showNormal();
+    if (firstStart) {
+        const frm_regen_status::StageRow row = status->row(stage);
+        row.title->setEnabled(true);
+        row.image->setEnabled(true);
+        row.result->setText(kWorking);
+    }
+    timer.Tag = QString::number(timer.Tag.toInt() + 1);
+    timer.setInterval(kPollMs);
+    return true;
+}
+
+bool frm_regen::endMarkerShown(JobTimer& timer) {
+    if (console->WordScan() != QLatin1String("***end***")) {
+        timer.setInterval(kPollMs);
+        return false;
+    }
+    console.reset();
+    return true;
+}
+
+void frm_regen::Timer1_Timer() {
+    const int tag = Timer1.Tag.toInt();
+    if (tag == 0 || tag == 2) {
+        startStage(Timer1, 1, tag == 0, BuildRegenDetectJob(inputs(), tag == 2));
+        return;
+    }
+    if (!endMarkerShown(Timer1))
+        return;
+    const QByteArray log = ReadWholeFile(log_path).value_or(QByteArray());
+    if (!RegenDetectWarned(log)) {
+        if (tag == 3)
+            sector_2336 = -1;
+        finishDetection(log);
+    } else if (tag == 1) {
+        // Read as 2352-byte sectors it is no disc: it may be one of 2336.
+        deleteJobFiles();
+        Timer1.Tag = QStringLiteral("2");
+        Timer1.setInterval(kHandOverMs);
+    } else {
+        endRun(Timer1, 1, kFailed, RegenNotAVcdText());
+    }
+}
+
+// A log with neither the warning nor a disc type names no disc: it fails as one that
+// was no disc in either sector size.
+void frm_regen::finishDetection(const QByteArray& log) {
+    const std::optional<QByteArray> type = RegenDiscType(log);
+    if (!type) {
+        endRun(Timer1, 1, kFailed, RegenNotAVcdText());
+        return;
+    }
+    disc_type = QString::fromLocal8Bit(*type);
+    deleteJobFiles();
+    status->lbl_vcddebug->setText(kSuccess);
+    HandOver(Timer1, Timer2);
+}
+
+void frm_regen::Timer2_Timer() {
+    if (Timer2.Tag.toInt() == 0) {
+        recordWorkFolder();
+        QDir().mkpath(RegenWorkFolder(inputs()));
+        startStage(Timer2, 2, true, BuildRegenRipJob(inputs(), sector_2336 == -1));
+        return;
+    }
+    if (!endMarkerShown(Timer2))
+        return;
+    if (!RegenRipSucceeded(ReadWholeFile(log_path))) {
+        // What vcdxrip left stays in the work folder, for the user to look into.
+        workRecorded_ = false;
+        endRun(Timer2, 2, kFailed, RegenRipFailureText());
+        return;
+    }
+    status->lbl_vcdxrip->setText(kSuccess);
+    deleteJobFiles();
+    HandOver(Timer2, Timer3);
+}
+
+void frm_regen::Timer3_Timer() {
+    if (Timer3.Tag.toInt() == 0) {
+        startStage(Timer3, 3, true, BuildRegenBuildJob(inputs(), sector_2336 == -1));
+        return;
+    }
+    if (!endMarkerShown(Timer3))
+        return;
+    const std::optional<QByteArray> log = ReadWholeFile(log_path);
+    if (RegenBuildSucceeded(log))
+        endRun(Timer3, 3, kSuccess,
+               RegenFinalReport(LastLine(*log), disc_type.toLocal8Bit(), sector_2336 == -1));
+    else
+        endRun(Timer3, 3, kFailed, RegenBuildFailureText());
+}
+
+// The end of a run at `stage`: the timer stopped before the box shows, so that this runs
+// once; the box; then the job's files and the run's own part of the work folder go, and
+// Timer4 closes the run.
+void frm_regen::endRun(JobTimer& timer, int stage, const QString& result, const QString& box) {
+    timer.setEnabled(false);
+    timer.Tag.clear();
+    console.reset();
+    status->row(stage).result->setText(result);
+    InformationBox(services_.boxes, kInformation, box);
+    QDir::setCurrent(output_dir);
+    deleteJobFiles();
+    removeWorkFolder();
+    Timer4.setEnabled(true);
+    Timer4.setInterval(kHandOverMs);
+}
+
+void frm_regen::Timer4_Timer() {
+    status.reset();
+    setControlsEnabled(true);
+    showNormal();
+    Timer4.setEnabled(false);
+    job_running = false;
+}
+
+void frm_regen::deleteJobFiles() {
+    QFile::remove(script_path);
+    QFile::remove(log_path);
+}
+
+void frm_regen::recordWorkFolder() {
+    const QDir work(RegenWorkFolder(inputs()));
+    workExisted_ = work.exists();
+    workHeld_ = workExisted_ ? work.entryList(kPlainFiles) : QStringList();
+    workRecorded_ = true;
+}
+
+void frm_regen::removeWorkFolder() {
+    if (!workRecorded_)
+        return;
+    QDir work(RegenWorkFolder(inputs()));
+    for (const QString& name : work.entryList(kPlainFiles))
+        if (!workHeld_.contains(name))
+            work.remove(name);
+    // A folder that still holds something stays: nothing is reported.
+    if (!workExisted_)
+        QDir().rmdir(work.path());
+    workRecorded_ = false;
+}
+
+// While a run goes on, the guard asks; Yes ends the run with the dialog: the console goes
+// (its processes end), then the job's files and the run's part of the work folder.
+void frm_regen::closeEvent(QCloseEvent* event) {
+    if (job_running) {
+        if (!ConfirmQuitWhileRunning(services_.boxes)) {
+            event->ignore();
+            return;
+        }
+        for (JobTimer* timer : {&Timer1, &Timer2, &Timer3, &Timer4})
+            timer->setEnabled(false);
+        console.reset();
+        QDir::setCurrent(output_dir);
+        deleteJobFiles();
+        removeWorkFolder();
+        status.reset();
+        job_running = false;
+    }
+    ReturnToMainMenu(menu_);
+    event->accept();
+}
+
+}  // namespace torvane

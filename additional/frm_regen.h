@@ -1,0 +1,96 @@
+#pragma once
+// The CUE/BIN Regenerator: a lone BIN file becomes a new CUE/BIN pair through three
+// console jobs that follow one another without the user. Stage 1 (Timer1) reads the disc
+// type and the sector size with vcddebug.exe, in two attempts; stage 2 (Timer2) takes the
+// image apart with vcdxrip.exe into a work folder beside the new image; stage 3 (Timer3)
+// authors the new pair with vcdxbuild.exe; Timer4 closes the run. Only one timer runs at a
+// time: each hands over by stopping itself and arming the next.
+
+#include "additional/frm_regen_status.h"
+#include "additional/regen_builder.h"
+#include "job/cconsole.h"
+#include "job/job_timer.h"
+#include "job/services.h"
+
+#include <QStringList>
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace torvane {
+
+class frm_mainmenu;
+
+class frm_regen : public QWidget {
+    Q_OBJECT
+public:
+    frm_regen(frm_mainmenu& menu, Services& services);
+    ~frm_regen() override;
+
+    void cmd_rip_Click();
+
+    QLabel* lbl_input;
+    QLineEdit* txt_input;
+    QPushButton* cmd_input;
+    QLabel* lbl_output;
+    QLineEdit* txt_output;
+    QPushButton* cmd_output;
+    QPushButton* cmd_rip;
+    QPushButton* cmd_cancel;
+    QGroupBox* Frame1;
+    QLabel* Label1;
+    JobTimer Timer1;
+    JobTimer Timer2;
+    JobTimer Timer3;
+    JobTimer Timer4;
+
+    QString tool_folder;
+    QString crlf;
+    std::unique_ptr<CConsole> console;
+    QString script_path;
+    QString log_path;
+    QString output_path;
+    QString input_path;
+    QString output_dir;
+    int16_t sector_2336 = 0;
+    QString disc_type;
+    bool job_running = false;
+    // Loaded from Go to the closing step.
+    std::unique_ptr<frm_regen_status> status;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildControls();
+    void Form_Load();
+    RegenInputs inputs() const;
+    void setControlsEnabled(bool enabled);
+
+    void Timer1_Timer();
+    void Timer2_Timer();
+    void Timer3_Timer();
+    void Timer4_Timer();
+
+    bool startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan);
+    bool endMarkerShown(JobTimer& timer);
+    void finishDetection(const QByteArray& log);
+    void endRun(JobTimer& timer, int stage, const QString& result, const QString& box);
+    void deleteJobFiles();
+    void recordWorkFolder();
+    void removeWorkFolder();
+
+    frm_mainmenu& menu_;
+    Services& services_;
+    // What the work folder held before the run: the clean-up removes only what the run made.
+    bool workRecorded_ = false;
+    bool workExisted_ = false;
+    QStringList workHeld_;
+};
+
+}  // namespace torvane

@@ -1,0 +1,41 @@
+#include "job/job_start.h"
+
+#include "job/job_paths.h"
+#include "job/services.h"
+#include "platform/replace_file.h"
+
+#include <QFile>
+#include <cstring>
+
+namespace torvane {
+
+QString WriteJobScript(const JobPlan& plan) {
+    QFile::remove(plan.scriptPath);
+    // Raw bytes, nothing added: no byte-order mark, no end-of-file mark.
+    const QByteArray script = JoinScriptLines(plan.scriptLines).toLocal8Bit();
+    const int error = ReplaceFileContents(QFile::encodeName(plan.scriptPath).toStdString(),
+                                          std::string_view(script.constData(), script.size()));
+    if (!error)
+        return {};
+    return QStringLiteral("The job script could not be written:\r\r") + ShownPath(plan.scriptPath) +
+           QStringLiteral("\r\r") + QString::fromLocal8Bit(std::strerror(error));
+}
+
+std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& title,
+                                          const QString& scriptPath) {
+    auto console = std::make_unique<CConsole>(&boxes);
+    console->setTitle(title);
+    console->setForeColor(2);
+    console->setForeIntense(true);
+    console->StartApp(scriptPath);
+    return console;
+}
+
+bool ConfirmQuitWhileRunning(MessageBoxes& boxes) {
+    return ConfirmationBox(boxes, QStringLiteral("Information"),
+                           QStringLiteral("The command is still running!  Are you") +
+                               QLatin1Char('\r') + QStringLiteral("sure that you want to quit?")) !=
+           vbNo;
+}
+
+}  // namespace torvane

@@ -1,0 +1,247 @@
+// The regenerator through the real job engine: with Debian's tools on the shared media
+// (a lone BIN in, a new pair out that rips to the disc's own clips), and with tools that
+// hold a stage open, so that the dialog can be closed in the middle of each stage.
+
+#include "additional/frm_regen.h"
+#include "shell/frm_mainmenu.h"
+#include "tests/support/job_driver.h"
+#include "tests/support/tool_run.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+
+using namespace torvane;
+using namespace torvane::test;
+
+namespace {
+
+constexpr int kRunTimeoutMs = 60000;
+
+struct Run {
+    bool ended = false;
+    QStringList results;  // the three result labels while the last box was open
+    QStringList boxes;    // the texts of the boxes shown
+};
+
+}  // namespace
+
+class RegenDialogTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void aLoneBinBecomesAWorkingPair_data();
+    void aLoneBinBecomesAWorkingPair();
+    void goRefusesOrAsksFirst_data();
+    void goRefusesOrAsksFirst();
+    void closingDuringAStageLeavesOnlyTheUsersFiles_data();
+    void closingDuringAStageLeavesOnlyTheUsersFiles();
+
+private:
+    Run go(const QString& appDir, const QString& input, const QString& output,
+           std::deque<int> answers = {});
+    QTemporaryDir* work_ = nullptr;
+    QString in_, out_;
+    std::unique_ptr<FakeServices> fakes_;
+    std::unique_ptr<frm_mainmenu> menu_;
+    frm_regen* dialog_ = nullptr;
+};
+
+void RegenDialogTest::init() {
+    UseBuiltInterpreter();
+    work_ = new QTemporaryDir;
+    in_ = FreshFolder(work_->path(), "dl & co; $HOME |<x>");
+    out_ = FreshFolder(work_->path(), "new 'image' ü");
+}
+
+void RegenDialogTest::cleanup() {
+    if (dialog_)
+        dialog_->close();
+    dialog_ = nullptr;
+    menu_.reset();
+    delete work_;
+}
+
+// Picks the two names, presses Go and waits until the run is over; `answers` go to the
+// boxes in turn.
+Run RegenDialogTest::go(const QString& appDir, const QString& input, const QString& output,
+                        std::deque<int> answers) {
+    fakes_ = std::make_unique<FakeServices>();
+    menu_ = std::make_unique<frm_mainmenu>(fakes_->services, appDir);
+    dialog_ = qobject_cast<frm_regen*>(menu_->openTool("regen"));
+    Run run;
+    fakes_->boxes.answers = answers;
+    fakes_->boxes.onShow = [&](const MessageBoxRequest& box) {
+        run.boxes << box.text;
+        run.results.clear();
+        for (int stage = 1; dialog_->status && stage <= 3; ++stage)
+            run.results << dialog_->status->row(stage).result->text();
+    };
+    fakes_->files.names = {input, output};
+    dialog_->cmd_input->click();
+    dialog_->cmd_output->click();
+    dialog_->cmd_rip->click();
+    run.ended = QTest::qWaitFor([this] { return !dialog_->job_running; }, kRunTimeoutMs);
+    return run;
+}
+
+void RegenDialogTest::aLoneBinBecomesAWorkingPair_data() {
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("output");  // in the output folder; none: the input itself
+    QTest::addColumn<QString>("description");
+    QTest::addColumn<QString>("rippedAs");  // the reference rip; none: no disc
+    const QString svcd = "image of a SVCD disc in 23%1 byte sectors.";
+    QTest::newRow("VCD 2.0, 2352") << "vcd-2352.bin"
+                                   << "-new disc.bin"
+                                   << "image of a VCD 2.0 disc in 2352 byte sectors."
+                                   << "ref-vcd";
+    QTest::newRow("VCD 2.0, 2336: found on the second attempt")
+        << "vcd-2336.bin"
+        << "new.bin"
+        << "image of a VCD 2.0 disc in 2336 byte sectors."
+        << "ref-vcd";
+    QTest::newRow("SVCD, 2352, named without .bin") << "svcd-2352.bin"
+                                                    << "plain" << svcd.arg(52) << "ref-svcd";
+    QTest::newRow("SVCD, 2336, over its own source (Yes)") << "svcd-2336.bin"
+                                                           << "" << svcd.arg(36) << "ref-svcd";
+    QTest::newRow("an MPEG clip is no disc") << "clip-vcd.mpg"
+                                             << "x.bin"
+                                             << ""
+                                             << "";
+    QTest::newRow("random bytes are no disc") << "random.bin"
+                                              << "x.bin"
+                                              << ""
+                                              << "";
+}
+
+void RegenDialogTest::aLoneBinBecomesAWorkingPair() {
+    QFETCH(QString, image);
+    QFETCH(QString, output);
+    QFETCH(QString, description);
+    QFETCH(QString, rippedAs);
+    const QString input = in_ + "/lost ü & co.bin";
+    QVERIFY(QFile::copy(Media(image), input));
+    const QString bin = output.isEmpty() ? input : out_ + "/" + output;
+    const QString cue = (bin.endsWith(".bin") ? bin.chopped(4) : bin) + ".cue";
+    const Run run = go(TORVANE_APP_DIR, input, bin, {vbYes});
+
+    QVERIFY(run.ended);
+    QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled() && !dialog_->isMinimized());
+    if (rippedAs.isEmpty()) {
+        QCOMPARE(run.boxes, QStringList{"The BIN file you selected isn't that of a S(VCD)!"});
+        QCOMPARE(run.results, (QStringList{"Failed!", "", ""}));
+        QCOMPARE(EntriesOf(out_), QStringList());
+        QVERIFY(ReadBytes(input) == ReadBytes(Media(image)));
+        return;
+    }
+    QCOMPARE(run.results, (QStringList{"Success!", "Success!", "Success!"}));
+    const QString report = run.boxes.value(run.boxes.size() - 1);
+    QVERIFY2(report.startsWith("The process has finished successfully!\r\rThe CUE/BIN files that "
+                               "were regenerated is an \r" +
+                               description + "\r\rThe image size is: 0 minutes, "),
+             qPrintable(report));
+    QVERIFY(report.endsWith("It should fit on a 21min/180MB (8 cm) CD-R disc."));
+    QStringList pair{QFileInfo(bin).fileName(), QFileInfo(cue).fileName()};
+    if (output.isEmpty())
+        QCOMPARE(EntriesOf(in_), (QStringList{"lost ü & co.bin", "lost ü & co.cue"}));
+    else
+        QCOMPARE(EntriesOf(out_), (pair.sort(), pair));
+    // The sheet names the new BIN; the BIN rips to the disc's clips, read as a lone BIN
+    // because the tools read no sheet of 2336-byte tracks.
+    const bool s2336 = description.contains("2336");
+    QVERIFY(ReadBytes(cue).startsWith("FILE " + Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
+                                      (s2336 ? "2336" : "2352")));
+    const QString rip = FreshFolder(work_->path(), "rip");
+    QStringList args{"--output-file=" + rip + "/v.xml", "--bin-file=" + bin};
+    if (s2336)
+        args.prepend("--sector-2336");
+    QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), args, rip).exitCode, 0);
+    for (const QString& clip : QDir(Media(rippedAs)).entryList({"*.mpg"}))
+        QVERIFY2(ReadBytes(rip + "/" + clip) == ReadBytes(Media(rippedAs) + "/" + clip),
+                 qPrintable(clip));
+}
+
+void RegenDialogTest::goRefusesOrAsksFirst_data() {
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QStringList>("boxes");
+    const QString lost = "lost.bin";
+    QTest::newRow("both empty: the output first")
+        << ""
+        << "" << QStringList{"You have not set an output file!"};
+    QTest::newRow("no input") << ""
+                              << "n.bin" << QStringList{"You have not loaded an input XML file!"};
+    QTest::newRow("an input that is not there")
+        << "gone.bin"
+        << "n.bin" << QStringList{"The BIN file could not be read:\r\r%in/gone.bin"};
+    QTest::newRow("over its own source: No")
+        << lost << lost << QStringList{"Are you sure you want to overwrite the \rexisting file?"};
+}
+
+void RegenDialogTest::goRefusesOrAsksFirst() {
+    QFETCH(QString, input);
+    QFETCH(QString, output);
+    QFETCH(QStringList, boxes);
+    QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
+    const auto path = [this](const QString& name) {
+        return name.isEmpty() ? name : in_ + "/" + name;
+    };
+    const Run run = go(TORVANE_APP_DIR, path(input), path(output), {vbNo});
+    QCOMPARE(run.boxes, boxes.replaceInStrings("%in", in_));
+    QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
+    QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
+}
+
+void RegenDialogTest::closingDuringAStageLeavesOnlyTheUsersFiles_data() {
+    QTest::addColumn<int>("stage");
+    QTest::addColumn<bool>("workFolderBefore");  // with a file of the user's in it
+    QTest::newRow("stage 1") << 1 << false;
+    QTest::newRow("stage 2") << 2 << false;
+    QTest::newRow("stage 2, a work folder of the user's") << 2 << true;
+    QTest::newRow("stage 3") << 3 << false;
+}
+
+void RegenDialogTest::closingDuringAStageLeavesOnlyTheUsersFiles() {
+    QFETCH(int, stage);
+    QFETCH(bool, workFolderBefore);
+    // Each tool writes what the next stage needs, then the tool of `stage` holds it open.
+    FakeAppFolder app;
+    const QString pidFile = work_->filePath("tool.pid");
+    const QByteArray hold = "echo $$ > '" + QFile::encodeName(pidFile) + "'; exec sleep 300\n";
+    app.addTool("vcddebug.exe",
+                (stage == 1 ? hold : "") + "printf 'vcd-info\\r\\nSVCD detected\\r\\n'");
+    app.addTool("vcdxrip.exe", (stage == 2 ? hold : "") +
+                                   "touch avseq01.mpg; printf 'x\\r\\n   INFO: done\\r\\n'");
+    app.addTool("vcdxbuild.exe", hold);
+    if (workFolderBefore)
+        QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
+    QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
+    fakes_ = std::make_unique<FakeServices>();
+    menu_ = std::make_unique<frm_mainmenu>(fakes_->services, app.path());
+    dialog_ = qobject_cast<frm_regen*>(menu_->openTool("regen"));
+    fakes_->files.names = {in_ + "/lost.bin", out_ + "/new.bin"};
+    dialog_->cmd_input->click();
+    dialog_->cmd_output->click();
+    dialog_->cmd_rip->click();
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
+    const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
+    QCOMPARE(dialog_->status->row(stage).result->text(), "Working...");
+
+    fakes_->boxes.answers = {vbYes};
+    QVERIFY(dialog_->close());
+    dialog_ = nullptr;
+    QCOMPARE(fakes_->boxes.shown.back().text,
+             "The command is still running!  Are you\rsure that you want to quit?");
+    QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kJobStepTimeoutMs);
+    QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
+    QCOMPARE(ReadBytes(in_ + "/lost.bin"), QByteArray("disc"));
+    QCOMPARE(EntriesOf(out_), workFolderBefore ? QStringList{"_vtools"} : QStringList());
+    if (workFolderBefore)
+        QCOMPARE(EntriesOf(out_ + "/_vtools"), QStringList{"mine.txt"});
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        QVERIFY(window->objectName() != "frm_regen_status");
+}
+
+QTEST_MAIN(RegenDialogTest)
+#include "regen_dialog_test.moc"
