@@ -24,21 +24,8 @@ using torvane::platform::ScreenModel;
 namespace {
 
 const QString kMarker = QStringLiteral("***end***");
-// How long a test waits for a program to get somewhere (they are quick; the machine may
-// be busy).
+// How long a test waits for a program to get somewhere: they are quick, the machine busy.
 constexpr int kWaitMs = 30000;
-
-// The screen's text without the empty rows at the bottom.
-QString Shown(QString screen) {
-    while (screen.endsWith(QLatin1Char('\n')))
-        screen.chop(1);
-    return screen;
-}
-
-// Neither running nor a zombie.
-bool Gone(pid_t pid) {
-    return kill(pid, 0) != 0;
-}
 
 QColor PixelOfFirstCell(QWidget* window) {
     return window->grab().toImage().pixelColor(window->width() / 160, window->height() / 50);
@@ -62,17 +49,15 @@ private slots:
                             const QByteArray& answer = {}) {
             QTest::newRow(name) << bytes << screen << answer;
         };
-        const QByteArray banner = "Finished!\r\nPress any key to continue . . . \r\n";
         row("the marker", "***end***\r\n", kMarker);
         row("coloured marker", "\x1b[1;32m***end***\x1b[0m", kMarker);
         row("letters beyond ASCII; a wide one takes two cells",
             "\xc3\xa9t\xe2\x82\xac \xe6\xbc\xa2\xf0\x9f\x98\x80!", "ét€ 漢😀!");
         row("scrolled up by a full screen", "***end***\r\n" + QByteArray("x\r\n").repeated(25),
             QStringLiteral("x\n").repeated(24).chopped(1));
-        row("erase with the scroll-back, then home", banner + "\x1b[2J\x1b[3J\x1b[H***end***",
+        row("erase with the scroll-back, then home", "Finished!\r\n\x1b[2J\x1b[3J\x1b[H***end***",
             kMarker);
-        row("full reset", banner + "\033c***end***", kMarker);
-        row("asked where the cursor is", "\r\n\r\nabc\x1b[6n", "\n\nabc", "\x1b[3;4R");
+        row("asked where the cursor is", "abc\r\n\tx\x1b[6n", "abc\n        x", "\x1b[2;10R");
     }
 
     // Output split anywhere, even inside a character or a sequence, gives the same screen.
@@ -86,7 +71,7 @@ private slots:
             model->setWriter([&](const char* data, std::size_t n) { written.append(data, n); });
             model->feed(bytes.left(at));
             model->feed(bytes.mid(at));
-            QCOMPARE(Shown(model->screenText()), screen);
+            QCOMPARE(model->screenText().trimmed(), screen);
             QCOMPARE(written, answer);
         }
     }
@@ -104,23 +89,20 @@ private slots:
 
     void propertiesShowInTheWindowAndReadBack_data() {
         QTest::addColumn<QList<int>>("colours");  // fore, back, back intense, fore intense
-        QTest::addColumn<int>("attribute");
         QTest::addColumn<QColor>("text");
         QTest::addColumn<QColor>("paper");
         QTest::addColumn<QString>("bufferLength");  // as set and as read back
         QTest::newRow("job colours: bright green on black; a number")
-            << QList<int>{2, 0, 0, 1} << 10 << QColor(0, 255, 0) << QColor(0, 0, 0) << "300=300";
+            << QList<int>{2, 0, 0, 1} << QColor(0, 255, 0) << QColor(0, 0, 0) << "300=300";
         QTest::newRow("grey on navy; a half goes to the even neighbour")
-            << QList<int>{7, 16, 0, 0} << 23 << QColor(192, 192, 192) << QColor(0, 0, 128)
-            << " 2.5=2";
+            << QList<int>{7, 16, 0, 0} << QColor(192, 192, 192) << QColor(0, 0, 128) << " 2.5=2";
         QTest::newRow("white on dark grey, bits above the background ignored; no number")
-            << QList<int>{256 + 7, 0, 1, 1} << 399 << QColor(255, 255, 255) << QColor(128, 128, 128)
+            << QList<int>{256 + 7, 0, 1, 1} << QColor(255, 255, 255) << QColor(128, 128, 128)
             << "abc=0";
     }
 
     void propertiesShowInTheWindowAndReadBack() {
         QFETCH(QList<int>, colours);
-        QFETCH(int, attribute);
         QFETCH(QColor, text);
         QFETCH(QColor, paper);
         QFETCH(QString, bufferLength);
@@ -129,7 +111,6 @@ private slots:
         console.setBackColor(colours[1]);
         console.setBackIntense(colours[2]);
         console.setForeIntense(colours[3]);
-        QCOMPARE(console.attribute(), attribute);
         QCOMPARE(PixelOfFirstCell(console.window()), paper);
         console.WriteText(QStringLiteral("\x1b[7m \x1b[m"));  // a blank in reverse video
         QCOMPARE(PixelOfFirstCell(console.window()), text);
@@ -143,18 +124,15 @@ private slots:
     void theOneConsoleWritesInsertsAndReadsUntilDropped() {
         auto console = std::make_unique<CConsole>();
         QPointer<QWidget> window = console->window();
-        console->setTitle(QStringLiteral("Torvane -- VCDXMINFO Tool"));
-        QCOMPARE(window->windowTitle(), QStringLiteral("Torvane -- VCDXMINFO Tool"));
         window->close();
         QVERIFY2(window->isVisible(), "the console stands open until it is dropped");
+        QString raised;
         try {
             CConsole second;
-            QFAIL("a second console was allocated");
-        } catch (const ConsoleError& error) {
-            QCOMPARE(
-                QStringLiteral("%1 %2: %3").arg(error.number).arg(error.source, error.description),
-                QStringLiteral("10102 Class_Initialize: Couldn't allocate console"));
+        } catch (const ConsoleError& e) {
+            raised = QStringLiteral("%1 %2: %3").arg(e.number).arg(e.source, e.description);
         }
+        QCOMPARE(raised, QStringLiteral("10102 Class_Initialize: Couldn't allocate console"));
         console->WriteText(QStringLiteral("still here\r\nsecond"));
         console->InsertWord(kMarker + QStringLiteral("\x1b[2J\r\n"));  // no control character acts
         QCOMPARE(console->WordScan(), kMarker);
@@ -166,7 +144,7 @@ private slots:
         });
         QCOMPARE(console->ConsoleRead(), QStringLiteral("he"));
         console->WriteText(QStringLiteral("X"));
-        QCOMPARE(Shown(console->screenText()), QStringLiteral("***end***?[2J??\nsecondhe\nX"));
+        QCOMPARE(console->screenText().trimmed(), QStringLiteral("***end***?[2J??\nsecondhe\nX"));
         console.reset();
         QVERIFY(window.isNull());
         QCOMPARE(CConsole().WordScan(), QString(9, QLatin1Char(' ')));
@@ -174,18 +152,17 @@ private slots:
 
     void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot_data() {
         QTest::addColumn<int>("key");
-        QTest::addColumn<QString>("text");
         QTest::addColumn<int>("modifiers");
         QTest::addColumn<QString>("received");  // in hex
-        QTest::newRow("letter") << int(Qt::Key_A) << "a" << 0 << "61";
-        QTest::newRow("return") << int(Qt::Key_Return) << "\r" << 0 << "0d";
-        QTest::newRow("up arrow") << int(Qt::Key_Up) << "" << 0 << "1b5b41";
-        QTest::newRow("control d") << int(Qt::Key_D) << "" << int(Qt::ControlModifier) << "04";
+        QTest::newRow("letter") << int(Qt::Key_A) << 0 << QStringLiteral("61");
+        QTest::newRow("return") << int(Qt::Key_Return) << 0 << QStringLiteral("0d");
+        QTest::newRow("up arrow") << int(Qt::Key_Up) << 0 << QStringLiteral("1b5b41");
+        QTest::newRow("control d")
+            << int(Qt::Key_D) << int(Qt::ControlModifier) << QStringLiteral("04");
     }
 
     void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot() {
         QFETCH(int, key);
-        QFETCH(QString, text);
         QFETCH(int, modifiers);
         QFETCH(QString, received);
         // The program fills more than a screen, takes bytes raw and shows them in hex.
@@ -202,10 +179,9 @@ private slots:
         QCOMPARE(window->linesBack(), 24 + 3);  // a page and a notch of the wheel
         QTest::keyClick(window, Qt::Key_PageDown, Qt::ShiftModifier);
         QCOMPARE(window->linesBack(), 3);
-        QTest::sendKeyEvent(QTest::Press, window, Qt::Key(key), text,
-                            Qt::KeyboardModifiers(modifiers));
+        QTest::keyClick(window, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
         QCOMPARE(window->linesBack(), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(Shown(console.screenText()), received, kWaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(console.screenText().trimmed(), received, kWaitMs);
     }
 
     void aChattyProgramNeverWaitsOnTheConsole() {
@@ -216,9 +192,8 @@ private slots:
             program("i=0\nwhile [ $i -lt 7000 ]; do\n  printf 'line %04d %060d\\n' $i 0\n"
                     "  i=$((i+1))\ndone\n: > finished\nprintf 'last line'\nexec sleep 300"));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(QStringLiteral("finished")), 120000);
-        QTRY_VERIFY_WITH_TIMEOUT(console.screenText().endsWith(QStringLiteral("last line")),
+        QTRY_VERIFY_WITH_TIMEOUT(console.screenText().startsWith(QStringLiteral("line 6976 ")),
                                  kWaitMs);
-        QVERIFY(console.screenText().startsWith(QStringLiteral("line 6976 ")));
     }
 
     void programsStartAndNothingOfThemOutlivesTheConsole_data() {
@@ -233,7 +208,6 @@ private slots:
         row("program in the current directory, ended before the hang-up", "prog", "program");
         row("no interpreter", "run.bat", "");
         row("no such program", "/no/such/program", "");
-        row("no name", "", "");
     }
 
     // A job script is run by the interpreter, here one that shows its arguments and stays.
@@ -252,14 +226,14 @@ private slots:
         console->StartApp(name);
         const pid_t pid = console->processId();
         QCOMPARE(pid > 0, !screen.isEmpty());
-        QTRY_COMPARE_WITH_TIMEOUT(Shown(console->screenText()), screen, kWaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(console->screenText().trimmed(), screen, kWaitMs);
         QFile pidFile(QStringLiteral("child.pid"));
         const pid_t child = pidFile.open(QIODevice::ReadOnly) ? pidFile.readAll().toInt() : -1;
-        QVERIFY(screen.isEmpty() || (child > 0 && !Gone(child)));
+        QVERIFY(screen.isEmpty() || (child > 0 && kill(child, 0) == 0));
         console.reset();
-        QVERIFY2(pid < 0 || Gone(pid), "the program is still there, running or as a zombie");
+        QVERIFY2(pid < 0 || kill(pid, 0) != 0, "the program runs on, or is a zombie");
         // The child ends at once; the system reaps it once its parent has gone.
-        QTRY_VERIFY_WITH_TIMEOUT(child < 0 || Gone(child), kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(child < 0 || kill(child, 0) != 0, kWaitMs);
     }
 
 private:
@@ -267,7 +241,6 @@ private:
         QFile file(name);
         if (file.open(QIODevice::WriteOnly))
             file.write("#!/bin/sh\n" + body + "\n");
-        file.close();
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return dir_->filePath(name);
     }
@@ -275,7 +248,7 @@ private:
     bool start(CConsole& console, const QByteArray& body) {
         console.StartApp(program(body));
         const auto ready = [&] {
-            return Shown(console.screenText()).endsWith(QStringLiteral("ready"));
+            return console.screenText().trimmed().endsWith(QStringLiteral("ready"));
         };
         return QTest::qWaitFor(ready, kWaitMs);
     }

@@ -33,18 +33,16 @@ class InterpreterTest : public QObject {
 private slots:
     void initTestCase() {
         // torvane-cmd runs in the job directory, with a folder of programs first in PATH.
-        const QString bin = dir_.filePath(QStringLiteral("bin"));
-        QVERIFY(QDir().mkpath(dir_.filePath(QStringLiteral("work"))) && QDir().mkpath(bin));
-        work_ = QDir(dir_.filePath(QStringLiteral("work"))).canonicalPath();
-        QVERIFY(QDir::setCurrent(work_));
-        qputenv("PATH", QFile::encodeName(bin) + ":/usr/bin:/bin");
+        work_ = QDir(dir_.path()).canonicalPath();
+        QVERIFY(QDir::setCurrent(work_) && QDir().mkpath(QStringLiteral("bin")));
+        qputenv("PATH", QFile::encodeName(work_) + "/bin:/usr/bin:/bin");
         const QByteArray printArgs = "for a in \"$@\"; do printf '[%s]\\n' \"$a\"; done";
         const QList<std::pair<QString, QByteArray>> programs{
             {"args.exe", printArgs},
             {"dir & $x ü/args.exe", printArgs},
             {"same.exe", "echo work copy"},
-            {bin + "/same.exe", "echo path copy"},
-            {bin + "/onlypath.exe", "echo path only"},
+            {"bin/same.exe", "echo path copy"},
+            {"bin/onlypath.exe", "echo path only"},
             {"noisy.exe", "echo out; echo err >&2; exit 3"},
             {"sleeper.exe", "echo ready; exec sleep 60"}};
         for (const auto& [path, body] : programs) {
@@ -99,32 +97,28 @@ private slots:
         torvane::platform::Pty pty;
         const auto model = torvane::platform::ScreenModel::create(25, 80);
         const pid_t pid = pty.open(25, 80) ? pty.start({TORVANE_CMD, "run.bat"}) : -1;
-        // What torvane-cmd writes goes on the screen, until `done`.
-        const auto until = [&](auto done) {
-            return QTest::qWaitFor(
-                [&] {
-                    char buffer[4096];
-                    for (long n; (n = pty.read(buffer, sizeof buffer)) > 0;)
-                        model->feed(buffer, static_cast<std::size_t>(n));
-                    return done();
-                },
-                kHangGuardMs);
+        const auto shown = [&] {  // the screen with what torvane-cmd has written
+            char buffer[4096];
+            for (long n; (n = pty.read(buffer, sizeof buffer)) > 0;)
+                model->feed(buffer, static_cast<std::size_t>(n));
+            return model->screenText();
         };
-        QVERIFY(pid > 0 && until([&] { return model->screenText().contains(waitFor); }));
+        QVERIFY(pid > 0 &&
+                QTest::qWaitFor([&] { return shown().contains(waitFor); }, kHangGuardMs));
         int result = -1;
         QCOMPARE(waitpid(pid, &result, WNOHANG), 0);  // still waiting
         pty.write(key.constData(), key.size());
         if (key.isEmpty())
             kill(pid, SIGHUP);  // as a terminal that hangs up tells the session leader alone
-        QVERIFY(until([&] { return waitpid(pid, &result, WNOHANG) == pid; }));
-        until([] { return true; });  // the last output
+        QVERIFY(
+            QTest::qWaitFor([&] { return waitpid(pid, &result, WNOHANG) == pid; }, kHangGuardMs));
         QCOMPARE(result, status);
         QVERIFY2(kill(-pid, 0) != 0, "a tool of the script runs on");
         termios mode{};
         QVERIFY(tcgetattr(pty.masterFd(), &mode) == 0);
         QCOMPARE(mode.c_lflag & (ICANON | ECHO), tcflag_t(ICANON | ECHO));
-        QCOMPARE(model->screenText(), screen.replace(QStringLiteral("{cwd}"), work_) +
-                                          QString(24 - screen.count(QLatin1Char('\n')), '\n'));
+        QCOMPARE(shown(), screen.replace(QStringLiteral("{cwd}"), work_) +
+                              QString(24 - screen.count(QLatin1Char('\n')), '\n'));
     }
 
 private:
