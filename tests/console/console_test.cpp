@@ -1,0 +1,260 @@
+// The console: its screen fed with bytes alone, and CConsole with real programs in its
+// terminal: what they print reaches the screen, keys typed in the console window reach
+// them, and nothing of them outlives the console.
+
+#include "job/cconsole.h"
+#include "job/console_window.h"
+#include "platform/screen_model.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+#include <csignal>
+#include <memory>
+
+using torvane::CConsole;
+using torvane::ConsoleError;
+using torvane::platform::ScreenModel;
+
+namespace {
+
+const QString kMarker = QStringLiteral("***end***");
+// How long a test waits for a program to get somewhere: they are quick, the machine busy.
+constexpr int kWaitMs = 30000;
+
+QColor PixelOfFirstCell(QWidget* window) {
+    return window->grab().toImage().pixelColor(window->width() / 160, window->height() / 50);
+}
+
+}  // namespace
+
+class ConsoleTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(dir_->isValid() && QDir::setCurrent(dir_->path()));
+    }
+
+    void theScreenShowsWhatTheBytesDraw_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("screen");
+        QTest::addColumn<QByteArray>("answer");  // the terminal's own, for the program
+        const auto row = [](const char* name, const QByteArray& bytes, const QString& screen,
+                            const QByteArray& answer = {}) {
+            QTest::newRow(name) << bytes << screen << answer;
+        };
+        row("the marker", "***end***\r\n", kMarker);
+        row("coloured marker", "\x1b[1;32m***end***\x1b[0m", kMarker);
+        row("letters beyond ASCII; a wide one takes two cells",
+            "\xc3\xa9t\xe2\x82\xac \xe6\xbc\xa2\xf0\x9f\x98\x80!", "ét€ 漢😀!");
+        row("scrolled up by a full screen", "***end***\r\n" + QByteArray("x\r\n").repeated(25),
+            QStringLiteral("x\n").repeated(24).chopped(1));
+        row("erase with the scroll-back, then home", "Finished!\r\n\x1b[2J\x1b[3J\x1b[H***end***",
+            kMarker);
+        row("asked where the cursor is", "abc\r\n\tx\x1b[6n", "abc\n        x", "\x1b[2;10R");
+    }
+
+    // Output split anywhere, even inside a character or a sequence, gives the same screen.
+    void theScreenShowsWhatTheBytesDraw() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, screen);
+        QFETCH(QByteArray, answer);
+        for (int at = 0; at <= bytes.size(); ++at) {
+            const auto model = ScreenModel::create(25, 80);
+            QByteArray written;
+            model->setWriter([&](const char* data, std::size_t n) { written.append(data, n); });
+            model->feed(bytes.left(at));
+            model->feed(bytes.mid(at));
+            QCOMPARE(model->screenText().trimmed(), screen);
+            QCOMPARE(written, answer);
+        }
+    }
+
+    void linesScrolledOffAreKeptWithinALimit() {
+        QVERIFY(ScreenModel::create(0, 80) == nullptr && ScreenModel::create(25, -1) == nullptr);
+        const auto screen = ScreenModel::create(25, 80);
+        for (int line = 1; line <= ScreenModel::kScrollbackLimit + 30; ++line)
+            screen->feed(QByteArray::number(line) + "\r\n");
+        QCOMPARE(screen->scrollbackLines(), ScreenModel::kScrollbackLimit);
+        QCOMPARE(screen->scrolledBackRow(3000, 0), std::optional<QString>("7"));
+        QCOMPARE(screen->scrolledBackRow(6, 5), std::optional<QString>("3006"));
+        QCOMPARE(screen->scrolledBackRow(6, 6), std::nullopt);  // the live screen's row 0
+    }
+
+    void propertiesShowInTheWindowAndReadBack_data() {
+        QTest::addColumn<QList<int>>("colours");  // fore, back, back intense, fore intense
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<QColor>("paper");
+        QTest::addColumn<QString>("bufferLength");  // as set and as read back
+        QTest::newRow("job colours: bright green on black; a number")
+            << QList<int>{2, 0, 0, 1} << QColor(0, 255, 0) << QColor(0, 0, 0) << "300=300";
+        QTest::newRow("grey on navy; a half goes to the even neighbour")
+            << QList<int>{7, 16, 0, 0} << QColor(192, 192, 192) << QColor(0, 0, 128) << " 2.5=2";
+        QTest::newRow("white on dark grey, bits above the background ignored; no number")
+            << QList<int>{256 + 7, 0, 1, 1} << QColor(255, 255, 255) << QColor(128, 128, 128)
+            << "abc=0";
+    }
+
+    void propertiesShowInTheWindowAndReadBack() {
+        QFETCH(QList<int>, colours);
+        QFETCH(QColor, text);
+        QFETCH(QColor, paper);
+        QFETCH(QString, bufferLength);
+        CConsole console;
+        console.setForeColor(colours[0]);
+        console.setBackColor(colours[1]);
+        console.setBackIntense(colours[2]);
+        console.setForeIntense(colours[3]);
+        QCOMPARE(PixelOfFirstCell(console.window()), paper);
+        console.WriteText(QStringLiteral("\x1b[7m \x1b[m"));  // a blank in reverse video
+        QCOMPARE(PixelOfFirstCell(console.window()), text);
+        console.setBufferLength(QStringLiteral("17"));
+        console.setBufferLength(bufferLength.section(QLatin1Char('='), 0, 0));
+        QCOMPARE(console.BufferLength(), bufferLength.section(QLatin1Char('='), 1));
+    }
+
+    // What the console itself writes, inserts at the top left and reads, while the one
+    // console and its window live.
+    void theOneConsoleWritesInsertsAndReadsUntilDropped() {
+        auto console = std::make_unique<CConsole>();
+        QPointer<QWidget> window = console->window();
+        window->close();
+        QVERIFY2(window->isVisible(), "the console stands open until it is dropped");
+        QString raised;
+        try {
+            CConsole second;
+        } catch (const ConsoleError& e) {
+            raised = QStringLiteral("%1 %2: %3").arg(e.number).arg(e.source, e.description);
+        }
+        QCOMPARE(raised, QStringLiteral("10102 Class_Initialize: Couldn't allocate console"));
+        console->WriteText(QStringLiteral("still here\r\nsecond"));
+        console->InsertWord(kMarker + QStringLiteral("\x1b[2J\r\n"));  // no control character acts
+        QCOMPARE(console->WordScan(), kMarker);
+        // Typed while ConsoleRead waits: a cursor key edits nothing, a pasted line ends at
+        // its first line end.
+        QTimer::singleShot(0, [&] {
+            for (const char* typed : {"h\xc3\xa9", "\x7f", "\x1b[A", "e\rtwo\r"})
+                console->sendInput(typed);
+        });
+        QCOMPARE(console->ConsoleRead(), QStringLiteral("he"));
+        console->WriteText(QStringLiteral("X"));
+        QCOMPARE(console->screenText().trimmed(), QStringLiteral("***end***?[2J??\nsecondhe\nX"));
+        console.reset();
+        QVERIFY(window.isNull());
+        QCOMPARE(CConsole().WordScan(), QString(9, QLatin1Char(' ')));
+    }
+
+    void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<QString>("received");  // in hex
+        QTest::newRow("letter") << int(Qt::Key_A) << 0 << QStringLiteral("61");
+        QTest::newRow("return") << int(Qt::Key_Return) << 0 << QStringLiteral("0d");
+        QTest::newRow("up arrow") << int(Qt::Key_Up) << 0 << QStringLiteral("1b5b41");
+        QTest::newRow("control d")
+            << int(Qt::Key_D) << int(Qt::ControlModifier) << QStringLiteral("04");
+    }
+
+    void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot() {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        QFETCH(QString, received);
+        // The program fills more than a screen, takes bytes raw and shows them in hex.
+        CConsole console;
+        QVERIFY(start(console, "seq 60\nstty raw -echo\nprintf ready\nbytes=$(dd bs=1 count=" +
+                                   QByteArray::number(received.size() / 2) +
+                                   " 2>/dev/null | od -An -tx1 | tr -d ' \\n')\n"
+                                   "printf '\\033[H\\033[2J%s' \"$bytes\"\nexec sleep 300"));
+        auto* window = qobject_cast<torvane::ConsoleWindow*>(console.window());
+        QTest::keyClick(window, Qt::Key_PageUp, Qt::ShiftModifier);
+        QWheelEvent notch(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window, &notch);
+        QCOMPARE(window->linesBack(), 24 + 3);  // a page and a notch of the wheel
+        QTest::keyClick(window, Qt::Key_PageDown, Qt::ShiftModifier);
+        QCOMPARE(window->linesBack(), 3);
+        QTest::keyClick(window, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(window->linesBack(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(console.screenText().trimmed(), received, kWaitMs);
+    }
+
+    void aChattyProgramNeverWaitsOnTheConsole() {
+        // About 500 KB, far more than a terminal holds: the program finishes only if the
+        // console keeps taking its output. Nothing here reads the screen until it has.
+        CConsole console;
+        console.StartApp(
+            program("i=0\nwhile [ $i -lt 7000 ]; do\n  printf 'line %04d %060d\\n' $i 0\n"
+                    "  i=$((i+1))\ndone\n: > finished\nprintf 'last line'\nexec sleep 300"));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(QStringLiteral("finished")), 120000);
+        QTRY_VERIFY_WITH_TIMEOUT(console.screenText().startsWith(QStringLiteral("line 6976 ")),
+                                 kWaitMs);
+    }
+
+    void programsStartAndNothingOfThemOutlivesTheConsole_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("screen");  // empty: nothing starts
+        const auto row = [](const char* name, const char* file, const char* screen) {
+            QTest::newRow(name) << QString(file) << QString(screen);
+        };
+        row("job script", "run.bat", "[run.bat]");
+        row("blanks, quotes and operators", "a b \"c\" & $x; |.BAT", "[a b \"c\" & $x; |.BAT]");
+        row("leading dash", "-x.bat", "[./-x.bat]");
+        row("program in the current directory, ended before the hang-up", "prog", "program");
+        row("no interpreter", "run.bat", "");
+        row("no such program", "/no/such/program", "");
+    }
+
+    // A job script is run by the interpreter, here one that shows its arguments and stays.
+    // Both leave a child behind that, like them, ignores the hang-up.
+    void programsStartAndNothingOfThemOutlivesTheConsole() {
+        QFETCH(QString, name);
+        QFETCH(QString, screen);
+        CConsole::setInterpreterPath(dir_->filePath(QStringLiteral("interpreter")));
+        const QByteArray leaveChild = "trap '' HUP\nsleep 300 &\necho $! > child.pid\n";
+        if (!screen.isEmpty()) {
+            program(leaveChild + "printf '[%s]' \"$@\"\nexec sleep 300",
+                    QStringLiteral("interpreter"));
+            program(leaveChild + "printf program", name);
+        }
+        auto console = std::make_unique<CConsole>();
+        console->StartApp(name);
+        const pid_t pid = console->processId();
+        QCOMPARE(pid > 0, !screen.isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(console->screenText().trimmed(), screen, kWaitMs);
+        QFile pidFile(QStringLiteral("child.pid"));
+        const pid_t child = pidFile.open(QIODevice::ReadOnly) ? pidFile.readAll().toInt() : -1;
+        QVERIFY(screen.isEmpty() || (child > 0 && kill(child, 0) == 0));
+        console.reset();
+        QVERIFY2(pid < 0 || kill(pid, 0) != 0, "the program runs on, or is a zombie");
+        // The child ends at once; the system reaps it once its parent has gone.
+        QTRY_VERIFY_WITH_TIMEOUT(child < 0 || kill(child, 0) != 0, kWaitMs);
+    }
+
+private:
+    QString program(const QByteArray& body, const QString& name = QStringLiteral("program")) {
+        QFile file(name);
+        if (file.open(QIODevice::WriteOnly))
+            file.write("#!/bin/sh\n" + body + "\n");
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return dir_->filePath(name);
+    }
+    // Starts the program; true once it has printed "ready".
+    bool start(CConsole& console, const QByteArray& body) {
+        console.StartApp(program(body));
+        const auto ready = [&] {
+            return console.screenText().trimmed().endsWith(QStringLiteral("ready"));
+        };
+        return QTest::qWaitFor(ready, kWaitMs);
+    }
+
+    std::unique_ptr<QTemporaryDir> dir_;  // the current directory, new for each test
+};
+
+QTEST_MAIN(ConsoleTest)
+#include "console_test.moc"
