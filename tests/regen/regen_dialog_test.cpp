@@ -31,10 +31,9 @@ class RegenDialogTest : public QObject {
 private slots:
     void init();
     void cleanup();
-    void aLoneBinBecomesAWorkingPair_data();
-    void aLoneBinBecomesAWorkingPair();
-    void goRefusesOrAsksFirst_data();
-    void goRefusesOrAsksFirst();
+    void aRunEndsAsExpected_data();
+    void aRunEndsAsExpected();
+    void overwritingTheSourceNeedsAYes();
     void closingDuringAStageLeavesOnlyTheUsersFiles_data();
     void closingDuringAStageLeavesOnlyTheUsersFiles();
 
@@ -86,70 +85,77 @@ Run RegenDialogTest::go(const QString& appDir, const QString& input, const QStri
     return run;
 }
 
-void RegenDialogTest::aLoneBinBecomesAWorkingPair_data() {
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QString>("output");  // in the output folder; none: the input itself
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<QString>("rippedAs");  // the reference rip; none: no disc
+void RegenDialogTest::aRunEndsAsExpected_data() {
+    QTest::addColumn<QString>("image");      // copied as the lone BIN; none: none picked
+    QTest::addColumn<QString>("output");     // in the output folder; "=": the input itself
+    QTest::addColumn<QStringList>("boxes");  // of a success, the report's description
+    QTest::addColumn<QStringList>("results");
+    QTest::addColumn<QString>("rippedAs");  // the reference rip of the new pair, if any
+    const QStringList success{"Success!", "Success!", "Success!"}, none{};
     const QString svcd = "image of a SVCD disc in 23%1 byte sectors.";
-    QTest::newRow("VCD 2.0, 2352") << "vcd-2352.bin"
-                                   << "-new disc.bin"
-                                   << "image of a VCD 2.0 disc in 2352 byte sectors."
-                                   << "ref-vcd";
+    QTest::newRow("VCD 2.0, 2352")
+        << "vcd-2352.bin"
+        << "-new disc.bin" << QStringList{"image of a VCD 2.0 disc in 2352 byte sectors."}
+        << success << "ref-vcd";
     QTest::newRow("VCD 2.0, 2336: found on the second attempt")
         << "vcd-2336.bin"
-        << "new.bin"
-        << "image of a VCD 2.0 disc in 2336 byte sectors."
+        << "new.bin" << QStringList{"image of a VCD 2.0 disc in 2336 byte sectors."} << success
         << "ref-vcd";
-    QTest::newRow("SVCD, 2352, named without .bin") << "svcd-2352.bin"
-                                                    << "plain" << svcd.arg(52) << "ref-svcd";
-    QTest::newRow("SVCD, 2336, over its own source (Yes)") << "svcd-2336.bin"
-                                                           << "" << svcd.arg(36) << "ref-svcd";
-    QTest::newRow("an MPEG clip is no disc") << "clip-vcd.mpg"
-                                             << "x.bin"
-                                             << ""
-                                             << "";
-    QTest::newRow("random bytes are no disc") << "random.bin"
-                                              << "x.bin"
-                                              << ""
-                                              << "";
+    QTest::newRow("SVCD, 2352, named without .bin")
+        << "svcd-2352.bin"
+        << "plain" << QStringList{svcd.arg(52)} << success << "ref-svcd";
+    QTest::newRow("SVCD, 2336, over its own source: Yes")
+        << "svcd-2336.bin"
+        << "=" << QStringList{svcd.arg(36)} << success << "ref-svcd";
+    QTest::newRow("an MPEG clip is no disc")
+        << "clip-vcd.mpg"
+        << "x.bin" << QStringList{"The BIN file you selected isn't that of a S(VCD)!"}
+        << QStringList{"Failed!", "", ""} << "";
+    QTest::newRow("both empty: the output first")
+        << ""
+        << "" << QStringList{"You have not set an output file!"} << none << "";
+    QTest::newRow("no input") << ""
+                              << "n.bin" << QStringList{"You have not loaded an input XML file!"}
+                              << none << "";
+    QTest::newRow("an input that is not there")
+        << "gone"
+        << "n.bin" << QStringList{"The BIN file could not be read:\r\r%in"} << none << "";
 }
 
-void RegenDialogTest::aLoneBinBecomesAWorkingPair() {
+void RegenDialogTest::aRunEndsAsExpected() {
     QFETCH(QString, image);
     QFETCH(QString, output);
-    QFETCH(QString, description);
+    QFETCH(QStringList, boxes);
+    QFETCH(QStringList, results);
     QFETCH(QString, rippedAs);
-    const QString input = in_ + "/lost ü & co.bin";
-    QVERIFY(QFile::copy(Media(image), input));
-    const QString bin = output.isEmpty() ? input : out_ + "/" + output;
+    const QString input = image.isEmpty() ? QString() : in_ + "/lost ü & co.bin";
+    if (!image.isEmpty() && image != "gone")
+        QVERIFY(QFile::copy(Media(image), input));
+    const QString bin = output == "=" ? input : output.isEmpty() ? output : out_ + "/" + output;
     const QString cue = (bin.endsWith(".bin") ? bin.chopped(4) : bin) + ".cue";
     const Run run = go(TORVANE_APP_DIR, input, bin, {vbYes});
 
-    QVERIFY(run.ended);
-    QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled() && !dialog_->isMinimized());
+    QVERIFY(run.ended && !dialog_->status && dialog_->cmd_rip->isEnabled());
+    QVERIFY(!dialog_->isMinimized());
+    QCOMPARE(run.results, results);
     if (rippedAs.isEmpty()) {
-        QCOMPARE(run.boxes, QStringList{"The BIN file you selected isn't that of a S(VCD)!"});
-        QCOMPARE(run.results, (QStringList{"Failed!", "", ""}));
+        QCOMPARE(run.boxes, boxes.replaceInStrings("%in", input));
         QCOMPARE(EntriesOf(out_), QStringList());
-        QVERIFY(ReadBytes(input) == ReadBytes(Media(image)));
+        QVERIFY(image.isEmpty() || image == "gone" || ReadBytes(input) == ReadBytes(Media(image)));
         return;
     }
-    QCOMPARE(run.results, (QStringList{"Success!", "Success!", "Success!"}));
     const QString report = run.boxes.value(run.boxes.size() - 1);
     QVERIFY2(report.startsWith("The process has finished successfully!\r\rThe CUE/BIN files that "
                                "were regenerated is an \r" +
-                               description + "\r\rThe image size is: 0 minutes, "),
+                               boxes[0] + "\r\rThe image size is: 0 minutes, "),
              qPrintable(report));
     QVERIFY(report.endsWith("It should fit on a 21min/180MB (8 cm) CD-R disc."));
     QStringList pair{QFileInfo(bin).fileName(), QFileInfo(cue).fileName()};
-    if (output.isEmpty())
-        QCOMPARE(EntriesOf(in_), (QStringList{"lost ü & co.bin", "lost ü & co.cue"}));
-    else
-        QCOMPARE(EntriesOf(out_), (pair.sort(), pair));
+    pair.sort();
+    QCOMPARE(EntriesOf(QFileInfo(bin).path()), pair);
     // The sheet names the new BIN; the BIN rips to the disc's clips, read as a lone BIN
     // because the tools read no sheet of 2336-byte tracks.
-    const bool s2336 = description.contains("2336");
+    const bool s2336 = boxes[0].contains("2336");
     QVERIFY(ReadBytes(cue).startsWith("FILE " + Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
                                       (s2336 ? "2336" : "2352")));
     const QString rip = FreshFolder(work_->path(), "rip");
@@ -162,33 +168,11 @@ void RegenDialogTest::aLoneBinBecomesAWorkingPair() {
                  qPrintable(clip));
 }
 
-void RegenDialogTest::goRefusesOrAsksFirst_data() {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QStringList>("boxes");
-    const QString lost = "lost.bin";
-    QTest::newRow("both empty: the output first")
-        << ""
-        << "" << QStringList{"You have not set an output file!"};
-    QTest::newRow("no input") << ""
-                              << "n.bin" << QStringList{"You have not loaded an input XML file!"};
-    QTest::newRow("an input that is not there")
-        << "gone.bin"
-        << "n.bin" << QStringList{"The BIN file could not be read:\r\r%in/gone.bin"};
-    QTest::newRow("over its own source: No")
-        << lost << lost << QStringList{"Are you sure you want to overwrite the \rexisting file?"};
-}
-
-void RegenDialogTest::goRefusesOrAsksFirst() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QStringList, boxes);
+// No at the overwrite question: nothing happens.
+void RegenDialogTest::overwritingTheSourceNeedsAYes() {
     QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
-    const auto path = [this](const QString& name) {
-        return name.isEmpty() ? name : in_ + "/" + name;
-    };
-    const Run run = go(TORVANE_APP_DIR, path(input), path(output), {vbNo});
-    QCOMPARE(run.boxes, boxes.replaceInStrings("%in", in_));
+    const Run run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
+    QCOMPARE(run.boxes, QStringList{"Are you sure you want to overwrite the \rexisting file?"});
     QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
     QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
 }
