@@ -119,7 +119,17 @@ void frm_regen::cmd_rip_Click() {
     if (!GoMayProceed(services_.boxes, RegenValidation(in), {in.input, in.output},
                       {RegenOutputDir(in)}))
         return;
-    // The tools would only say that it is no disc; say what it is instead.
+    // A tool that is missing, or an input that cannot be read, would only read as a file
+    // that is no disc; say what it is instead.
+    for (const char* tool : {"vcddebug.exe", "vcdxrip.exe", "vcdxbuild.exe"}) {
+        if (!QFileInfo(tool_folder + QLatin1String(tool)).isExecutable()) {
+            InformationBox(
+                services_.boxes, kInformation,
+                QStringLiteral("The tool folder has no %1:\r\r").arg(QLatin1String(tool)) +
+                    ShownPath(tool_folder));
+            return;
+        }
+    }
     if (!QFileInfo(in.input).isFile() || !QFileInfo(in.input).isReadable()) {
         InformationBox(services_.boxes, kInformation,
                        QStringLiteral("The BIN file could not be read:\r\r") + ShownPath(in.input));

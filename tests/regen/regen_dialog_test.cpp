@@ -168,10 +168,15 @@ void RegenDialogTest::aRunEndsAsExpected() {
                  qPrintable(clip));
 }
 
-// No at the overwrite question: nothing happens.
+// No at the overwrite question, or a tool missing: nothing happens.
 void RegenDialogTest::overwritingTheSourceNeedsAYes() {
     QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
-    const Run run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
+    FakeAppFolder app;
+    app.addTool("vcddebug.exe", "");
+    app.addTool("vcdxbuild.exe", "");
+    Run run = go(app.path(), in_ + "/lost.bin", in_ + "/x.bin");
+    QCOMPARE(run.boxes, QStringList{"The tool folder has no vcdxrip.exe:\r\r" + app.toolFolder()});
+    run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
     QCOMPARE(run.boxes, QStringList{"Are you sure you want to overwrite the \rexisting file?"});
     QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
     QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
