@@ -1,25 +1,93 @@
-// The VCDXMINFO dialog's own part: the order of its checks at Go, and its interlock. The
-// job itself runs in the integration test, on the real tool.
+// The VCDXMINFO dialog: its command line and script with either separator, its checks at Go,
+// and a job with a fake vcdxminfo.exe: the APS interlock and the report.
 
 #include "inspect/frm_vcdxminfo.h"
+#include "inspect/vcdxminfo_builder.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/job_driver.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
 using namespace torvane;
 using namespace torvane::test;
 
+namespace {
+
+// Generic and APS data with the Windows separator; relaxed APS data alone with '/'.
+VcdxminfoInputs In(char sep) {
+    const bool w = sep == '\\';
+    return {w ? "D:\\in\\clip.mpg" : "/in/clip one.mpg",
+            w ? "D:\\out\\report.xml" : "/out/report.xml",
+            w,
+            true,
+            !w,
+            w ? "C:\\App\\VCDImager\\" : "/opt/app/VCDImager/",
+            QLatin1Char(sep)};
+}
+
+// The fixed lines of the script around its description of the job and the command.
+QStringList Script(const QString& description, const QString& command) {
+    return ("echo off\ncls\necho VCDXMINFO Tool - Batch File (quelmora productions)\necho " +
+            QString(50, '=') + '\n' + description + "\necho.\n" + command +
+            "\necho.\necho Finished!\npause\ncls\necho ***end***")
+        .split('\n');
+}
+
+// A menu over fake services and an application folder with no tool yet, and its dialog.
+struct Fixture {
+    FakeServices fakes;
+    FakeAppFolder app;
+    QTemporaryDir work;
+    frm_mainmenu menu{fakes.services, app.path()};
+    frm_vcdxminfo& dialog = *qobject_cast<frm_vcdxminfo*>(menu.openTool("vcdxminfo"));
+    ~Fixture() { CloseDialog(&dialog, fakes.boxes); }
+};
+
+}  // namespace
+
 class VcdxminfoDialogTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { UseBuiltInterpreter(); }
+    void commandAndScript_data();
+    void commandAndScript();
     void goRefusesInOrder_data();
     void goRefusesInOrder();
-    void apsGovernsRelaxed();
+    void job();
 };
+
+void VcdxminfoDialogTest::commandAndScript_data() {
+    QTest::addColumn<VcdxminfoInputs>("in");
+    QTest::addColumn<QString>("jobDir");
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("description");
+    QTest::newRow("generic and aps")
+        << In('\\') << "D:\\out\\"
+        << R"("C:\App\VCDImager\vcdxminfo.exe" -i -a -v  -p --output-file="D:\out\report.xml" "D:\in\clip.mpg")"
+        << R"(echo Input MPEG File:  D:\in\clip.mpg
+echo Output XML File:  report.xml
+echo Option switches:  -i -a -v -p)";
+    QTest::newRow("posix, relaxed aps alone")
+        << In('/') << "/out/"
+        << R"("/opt/app/VCDImager/vcdxminfo.exe"  -a --relaxed-aps -v  -p --output-file="/out/report.xml" "/in/clip one.mpg")"
+        << R"(echo Input MPEG File:  /in/clip one.mpg
+echo Output XML File:  report.xml
+echo Option switches:   -a --relaxed-aps -v -p)";
+}
+
+void VcdxminfoDialogTest::commandAndScript() {
+    QFETCH(VcdxminfoInputs, in);
+    QFETCH(QString, jobDir);
+    QFETCH(QString, command);
+    QFETCH(QString, description);
+    const JobPlan plan = BuildVcdxminfoJob(in);
+    QCOMPARE(plan.commandLine, command);
+    QCOMPARE(plan.scriptLines, Script(description, command));
+    QCOMPARE(plan.jobDir, jobDir);
+    QCOMPARE(plan.scriptPath, jobDir + "run.bat");
+}
 
 void VcdxminfoDialogTest::goRefusesInOrder_data() {
     AddRefusalColumns();
@@ -31,30 +99,37 @@ void VcdxminfoDialogTest::goRefusesInOrder_data() {
                "This file name cannot be passed to the tool:");
     RefusalRow("an output folder that does not exist", "/m/a.mpg", "gone/r.xml",
                "The folder does not exist:");
-    RefusalRow("an output folder that cannot be written", "/m/a.mpg", "/proc/self/r.xml",
-               "The folder cannot be written to:");
 }
 
 void VcdxminfoDialogTest::goRefusesInOrder() {
-    QTemporaryDir work;
-    FakeServices fakes;
-    frm_mainmenu menu(fakes.services, work.path());
-    auto* dialog = qobject_cast<frm_vcdxminfo*>(menu.openTool(QStringLiteral("vcdxminfo")));
-    PickAndExpectRefusal(fakes, *dialog, dialog->frame, work.path());
-    QVERIFY(dialog->close());
+    Fixture f;
+    PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
 }
 
-void VcdxminfoDialogTest::apsGovernsRelaxed() {
-    FakeServices fakes;
-    frm_mainmenu menu(fakes.services, QStringLiteral("/app"));
-    auto* dialog = qobject_cast<frm_vcdxminfo*>(menu.openTool(QStringLiteral("vcdxminfo")));
-    dialog->chk_apsrelaxed->click();
-    dialog->chk_aps->click();
-    QVERIFY(!dialog->chk_apsrelaxed->isEnabled());
-    QVERIFY(dialog->chk_apsrelaxed->isChecked());  // kept for when APS comes back
-    dialog->chk_aps->click();
-    QVERIFY(dialog->chk_apsrelaxed->isEnabled());
-    QVERIFY(dialog->close());
+// Without APS the relaxed tick is moot: grey, kept, and left out of the command.
+void VcdxminfoDialogTest::job() {
+    Fixture f;
+    const QString args = f.work.filePath("args.txt"), input = f.work.filePath("-clip & co.mpg");
+    const QString output = f.work.filePath("report; $x.xml");
+    f.app.addRecordingTool("vcdxminfo.exe", args);
+    f.fakes.files.names = {input, output};
+    f.dialog.cmd_input->click();
+    f.dialog.cmd_output->click();
+    f.dialog.chk_apsrelaxed->click();
+    f.dialog.chk_aps->click();
+    QVERIFY(!f.dialog.chk_apsrelaxed->isEnabled() && f.dialog.chk_apsrelaxed->isChecked());
+    QVERIFY(RunJobToIdle(*f.dialog.cmd_rip, f.dialog.frame, f.fakes.boxes, vbYes));
+
+    QCOMPARE(RecordedArguments(args),
+             (QStringList{"-i", "-v", "-p", "--output-file=" + output, input}));
+    QCOMPARE(f.fakes.boxes.shown.size(), 1u);
+    QCOMPARE(f.fakes.boxes.shown[0].title, "Question");
+    QCOMPARE(f.fakes.boxes.shown[0].text,
+             "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output);
+    QCOMPARE(f.fakes.desktop.viewed, QStringList{output});
+    QVERIFY(!f.dialog.chk_apsrelaxed->isEnabled() && f.dialog.chk_apsrelaxed->isChecked());
+    f.dialog.chk_aps->click();
+    QVERIFY(f.dialog.chk_apsrelaxed->isEnabled());
 }
 
 QTEST_MAIN(VcdxminfoDialogTest)

@@ -1,12 +1,11 @@
-// The VCDXRIP dialog's own part: its checks at Go, its interlock, and its jobs through
-// the real engine with a fake vcdxrip.exe that records its arguments and prints a log.
+// The VCDXRIP dialog: its command line and script with either separator, its checks at Go,
+// and its jobs with a fake vcdxrip.exe: report and interlock.
 
 #include "rip/frm_vcdxrip.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/job_driver.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -20,47 +19,88 @@ const QString kFailureBox = QStringLiteral(
     "There appears to have been an error!\r\rThe error may have been shown in the console "
     "window\rbefore it closed.");
 const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
+
+// Nothing ticked with the Windows separator; 2336-byte sectors, norip and nofiles with '/'.
+VcdxripInputs In(char sep, const char* input, const char* output) {
+    const bool p = sep == '/';
+    return {input,           output, p,
+            false,           p,      p,
+            false,           false,  p ? "/opt/app/VCDImager/" : "C:\\app\\VCDImager\\",
+            QLatin1Char(sep)};
+}
+
+// The fixed lines of the script around its description of the job and the command.
+QStringList Script(const QString& description, const QString& command) {
+    return ("echo off\ncls\necho VCDXRIP Tool - Batch File (quelmora productions)\necho " +
+            QString(48, '=') + '\n' + description +
+            "\necho.\necho Please wait for this process to complete. It may take\n"
+            "echo a few minutes.\n" +
+            command + "\necho.\necho Finished!\npause\ncls\necho ***end***")
+        .split('\n');
+}
+
+// A menu over fake services and an application folder with no tool yet, and its dialog.
+struct Fixture {
+    FakeServices fakes;
+    FakeAppFolder app;
+    QTemporaryDir work;
+    frm_mainmenu menu{fakes.services, app.path()};
+    frm_vcdxrip& dialog = *qobject_cast<frm_vcdxrip*>(menu.openTool("vcdxrip"));
+    ~Fixture() { CloseDialog(&dialog, fakes.boxes); }
+};
 }  // namespace
 
 class VcdxripDialogTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { UseBuiltInterpreter(); }
-    void init();
-    void cleanup();
+    void commandAndScript_data();
+    void commandAndScript();
     void goRefusesInOrder_data();
     void goRefusesInOrder();
     void job_data();
     void job();
-
-private:
-    FakeServices fakes_;
-    std::unique_ptr<FakeAppFolder> app_;
-    std::unique_ptr<QTemporaryDir> work_;
-    std::unique_ptr<frm_mainmenu> menu_;
-    QPointer<frm_vcdxrip> dialog_;
 };
 
-void VcdxripDialogTest::init() {
-    fakes_.boxes.shown.clear();
-    fakes_.desktop.viewed.clear();
-    app_ = std::make_unique<FakeAppFolder>();
-    work_ = std::make_unique<QTemporaryDir>();
-    menu_ = std::make_unique<frm_mainmenu>(fakes_.services, app_->path());
-    dialog_ = qobject_cast<frm_vcdxrip*>(menu_->openTool(QStringLiteral("vcdxrip")));
-    QVERIFY(dialog_);
+void VcdxripDialogTest::commandAndScript_data() {
+    QTest::addColumn<VcdxripInputs>("in");
+    QTest::addColumn<QString>("jobDir");  // the log's folder too
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("description");
+    QTest::newRow("bin, output in a drive's root")
+        << In('\\', "D:\\img\\movie.bin", "E:\\disc.xml") << "E:\\"
+        << R"("C:\app\VCDImager\vcdxrip.exe "  -v --output-file="E:\disc.xml" --bin-file="D:\img\movie.bin" > log.txt)"
+        << R"(echo Input image:     D:\img\movie.bin
+echo Ouput directory: E:\
+echo Output XML file: disc.xml
+echo Option switches:  -v)";
+    QTest::newRow("posix nrg, shell characters, norip over nofiles")
+        << In('/', "/img/my movie & co.nrg", "/rip/$x; dir/d.xml") << "/rip/$x; dir/"
+        << R"("/opt/app/VCDImager/vcdxrip.exe "  --sector-2336 --norip -v --output-file="/rip/$x; dir/d.xml" --nrg-file="/img/my movie & co.nrg" > log.txt)"
+        << R"(echo Input image:     /img/my movie & co.nrg
+echo Ouput directory: /rip/$x; dir/
+echo Output XML file: d.xml
+echo Option switches:  --sector-2336 --norip -v)";
 }
 
-void VcdxripDialogTest::cleanup() {
-    CloseDialog(dialog_, fakes_.boxes);
-    menu_.reset();
+void VcdxripDialogTest::commandAndScript() {
+    QFETCH(VcdxripInputs, in);
+    QFETCH(QString, jobDir);
+    QFETCH(QString, command);
+    QFETCH(QString, description);
+    const JobPlan plan = BuildVcdxripJob(in);
+    QCOMPARE(plan.commandLine, command);
+    QCOMPARE(plan.scriptLines, Script(description, command));
+    QCOMPARE(plan.jobDir, jobDir);
+    QCOMPARE(plan.scriptPath, jobDir + "run.bat");
+    QCOMPARE(plan.logPath, jobDir + "log.txt");
 }
 
 void VcdxripDialogTest::goRefusesInOrder_data() {
     AddRefusalColumns();
     RefusalRow("nothing set: only the output", "", "", "You have not set an output file!");
     RefusalRow("no input", "", "d.xml", "You have not set an input CD image!");
-    RefusalRow("an image that is no BIN or NRG", "/i/m.cue", "d.xml",
+    RefusalRow("an image that is no .bin or .nrg", "/i/MOVIE.BIN", "d.xml",
                "The CD Image has not been recognised as either\rCUE/BIN image type or NRG "
                "(Nero Burning Rom)!");
     RefusalRow("a line feed that would run a command", "/i/movie\ntouch pwned\n.bin", "d.xml",
@@ -72,59 +112,63 @@ void VcdxripDialogTest::goRefusesInOrder_data() {
 }
 
 void VcdxripDialogTest::goRefusesInOrder() {
-    PickAndExpectRefusal(fakes_, *dialog_, dialog_->frame, work_->path());
+    Fixture f;
+    PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
 }
 
 void VcdxripDialogTest::job_data() {
     QTest::addColumn<QString>("image");
-    QTest::addColumn<bool>("norip");
+    QTest::addColumn<QString>("clicks");
+    QTest::addColumn<bool>("threeFree");  // the three choices of what not to extract
     QTest::addColumn<QByteArray>("log");
     QTest::addColumn<QStringList>("switches");
     QTest::addColumn<QString>("box");
-    QTest::newRow("bin, done, log opened")
-        << "-movie one.bin" << false << QByteArray("   INFO: extracting\r\n   INFO: done\r\n")
-        << QStringList{"-v"} << kSuccessBox;
+    // The switches in their fixed order, whatever the order of the clicks.
+    QTest::newRow("bin, norip and back, done, log opened")
+        << "-movie one.bin"
+        << "chk_nosegments chk_nosequences chk_nofiles chk_noextpsd chk_norip chk_norip" << true
+        << QByteArray("   INFO: extracting\r\n   INFO: done\r\n")
+        << QStringList{"--no-ext-psd", "--nofiles", "--nosequences", "--nosegments", "-v"}
+        << kSuccessBox;
     QTest::newRow("nrg, norip over the three, failure")
-        << "movie.nrg" << true << QByteArray("   INFO: opening\r\n**ERROR: bad image\r\n")
+        << "movie.nrg"
+        << "chk_s2336 chk_nofiles chk_nosequences chk_nosegments chk_norip" << false
+        << QByteArray("   INFO: opening\r\n**ERROR: bad image\r\n")
         << QStringList{"--sector-2336", "--norip", "-v"} << kFailureBox;
 }
 
 void VcdxripDialogTest::job() {
     QFETCH(QString, image);
-    QFETCH(bool, norip);
+    QFETCH(QString, clicks);
+    QFETCH(bool, threeFree);
     QFETCH(QByteArray, log);
     QFETCH(QStringList, switches);
     QFETCH(QString, box);
-    const QString args = work_->filePath(QStringLiteral("args.txt"));
-    app_->addRecordingTool(QStringLiteral("vcdxrip.exe"), args, log.replace("\r\n", "\\r\\n"));
-    const QString ripDir = work_->filePath(QStringLiteral("rip dir; $x & co/"));
+    Fixture f;
+    const QString args = f.work.filePath("args.txt");
+    f.app.addRecordingTool("vcdxrip.exe", args, log.replace("\r\n", "\\r\\n"));
+    const QString ripDir = f.work.filePath("rip dir; $x & co/");
     QVERIFY(QDir().mkpath(ripDir));
-    const QString input = work_->filePath(image), xml = ripDir + QStringLiteral("d.xml");
-    fakes_.files.names = {input, xml};
-    dialog_->cmd_input->click();
-    dialog_->cmd_output->click();
-    if (norip) {
-        dialog_->chk_s2336->click();
-        for (const QString& name : kThree)
-            dialog_->findChild<QCheckBox*>(name)->click();
-        dialog_->chk_norip->click();
-        QCOMPARE(EnabledControls(*dialog_, kThree), QStringList());
-    }
-    QVERIFY(RunJobToIdle(*dialog_->cmd_rip, dialog_->frame, fakes_.boxes, vbYes));
+    const QString input = f.work.filePath(image), xml = ripDir + "d.xml";
+    f.fakes.files.names = {input, xml};
+    f.dialog.cmd_input->click();
+    f.dialog.cmd_output->click();
+    for (const QString& name : clicks.split(' '))
+        f.dialog.findChild<QCheckBox*>(name)->click();
+    const QStringList enabled = threeFree ? kThree : QStringList();
+    QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
+    QVERIFY(RunJobToIdle(*f.dialog.cmd_rip, f.dialog.frame, f.fakes.boxes, vbYes));
 
     const bool success = box == kSuccessBox;
-    QCOMPARE(fakes_.boxes.shown.size(), 1u);
-    QCOMPARE(fakes_.boxes.shown[0].text, box);
-    QCOMPARE(fakes_.boxes.shown[0].defaultAnswer, success ? vbNo : vbOK);
-    QCOMPARE(fakes_.desktop.viewed, success ? QStringList{ripDir + "log.txt"} : QStringList());
-    const QString inputSwitch = image.endsWith(".bin") ? "--bin-file=" : "--nrg-file=";
-    const QStringList expected =
-        switches + QStringList{"--output-file=" + xml, inputSwitch + input};
-    QCOMPARE(RecordedArguments(args), expected);
-    // Back to Idle with the interlock applied, the ticks kept.
-    QCOMPARE(EnabledControls(*dialog_, kThree), norip ? QStringList() : kThree);
-    QCOMPARE(dialog_->chk_nosegments->isChecked(), norip);
-    QVERIFY(dialog_->cmd_rip->isEnabled() && !QFile::exists(ripDir + "run.bat"));
+    QCOMPARE(f.fakes.boxes.shown.size(), 1u);
+    QCOMPARE(f.fakes.boxes.shown[0].text, box);
+    QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{ripDir + "log.txt"} : QStringList());
+    const QString inputSwitch = success ? "--bin-file=" : "--nrg-file=";
+    QCOMPARE(RecordedArguments(args),
+             (switches + QStringList{"--output-file=" + xml, inputSwitch + input}));
+    // Back to Idle with the interlock applied anew, the ticks kept.
+    QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
+    QVERIFY(f.dialog.chk_nosegments->isChecked());
 }
 
 QTEST_MAIN(VcdxripDialogTest)
