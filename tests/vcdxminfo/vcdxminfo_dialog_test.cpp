@@ -15,13 +15,14 @@ using namespace torvane::test;
 
 namespace {
 
-// The fixed lines of the script around its description of the job and the command.
-QStringList Script(const QString& description, const QString& command) {
+// The whole script: the fixed lines around the job's description and command in `lines`.
+QStringList Script(const QString& lines) {
+    const int command = lines.lastIndexOf('\n') + 1;
     return QStringLiteral(
                "echo off\ncls\necho VCDXMINFO Tool - Batch File (quelmora productions)\n"
                "echo ==================================================\n%1\necho.\n%2\n"
                "echo.\necho Finished!\npause\ncls\necho ***end***")
-        .arg(description, command)
+        .arg(lines.left(command - 1), lines.mid(command))
         .split('\n');
 }
 
@@ -51,33 +52,29 @@ private slots:
 void VcdxminfoDialogTest::commandAndScript_data() {
     QTest::addColumn<VcdxminfoInputs>("in");
     QTest::addColumn<QString>("jobDir");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("description");
+    QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
     const VcdxminfoInputs windows{"D:\\in\\clip.mpg",     "D:\\out\\report.xml", true, true, false,
                                   "C:\\App\\VCDImager\\", QLatin1Char('\\')};
     const VcdxminfoInputs posix{"/in/clip one.mpg",    "/out/report.xml", false, true, true,
                                 "/opt/app/VCDImager/", QLatin1Char('/')};
-    QTest::newRow("generic and aps")
-        << windows << "D:\\out\\"
-        << R"("C:\App\VCDImager\vcdxminfo.exe" -i -a -v  -p --output-file="D:\out\report.xml" "D:\in\clip.mpg")"
-        << R"(echo Input MPEG File:  D:\in\clip.mpg
+    QTest::newRow("generic and aps") << windows << "D:\\out\\"
+                                     << R"(echo Input MPEG File:  D:\in\clip.mpg
 echo Output XML File:  report.xml
-echo Option switches:  -i -a -v -p)";
-    QTest::newRow("posix, relaxed aps alone")
-        << posix << "/out/"
-        << R"("/opt/app/VCDImager/vcdxminfo.exe"  -a --relaxed-aps -v  -p --output-file="/out/report.xml" "/in/clip one.mpg")"
-        << R"(echo Input MPEG File:  /in/clip one.mpg
+echo Option switches:  -i -a -v -p
+"C:\App\VCDImager\vcdxminfo.exe" -i -a -v  -p --output-file="D:\out\report.xml" "D:\in\clip.mpg")";
+    QTest::newRow("posix, relaxed aps alone") << posix << "/out/"
+                                              << R"(echo Input MPEG File:  /in/clip one.mpg
 echo Output XML File:  report.xml
-echo Option switches:   -a --relaxed-aps -v -p)";
+echo Option switches:   -a --relaxed-aps -v -p
+"/opt/app/VCDImager/vcdxminfo.exe"  -a --relaxed-aps -v  -p --output-file="/out/report.xml" "/in/clip one.mpg")";
 }
 
 void VcdxminfoDialogTest::commandAndScript() {
     QFETCH(VcdxminfoInputs, in);
     QFETCH(QString, jobDir);
-    QFETCH(QString, command);
-    QFETCH(QString, description);
+    QFETCH(QString, script);
     const JobPlan plan = BuildVcdxminfoJob(in);
-    QCOMPARE(plan.scriptLines, Script(description, command));
+    QCOMPARE(plan.scriptLines, Script(script));
     QCOMPARE(plan.jobDir, jobDir);
     QCOMPARE(plan.scriptPath, jobDir + "run.bat");
 }

@@ -20,14 +20,15 @@ const QString kFailureBox = QStringLiteral(
     "window\rbefore it closed.");
 const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
 
-// The fixed lines of the script around its description of the job and the command.
-QStringList Script(const QString& description, const QString& command) {
+// The whole script: the fixed lines around the job's description and command in `lines`.
+QStringList Script(const QString& lines) {
+    const int command = lines.lastIndexOf('\n') + 1;
     return QStringLiteral(
                "echo off\ncls\necho VCDXRIP Tool - Batch File (quelmora productions)\n"
                "echo ================================================\n%1\necho.\n"
                "echo Please wait for this process to complete. It may take\necho a few minutes.\n"
                "%2\necho.\necho Finished!\npause\ncls\necho ***end***")
-        .arg(description, command)
+        .arg(lines.left(command - 1), lines.mid(command))
         .split('\n');
 }
 
@@ -57,37 +58,34 @@ private slots:
 void VcdxripDialogTest::commandAndScript_data() {
     QTest::addColumn<VcdxripInputs>("in");
     QTest::addColumn<QString>("jobDir");  // the log's folder too
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("description");
+    QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
     const VcdxripInputs windows{
         "D:\\img\\movie.bin",   "E:\\disc.xml",   false, false, false, false, false, false,
         "C:\\app\\VCDImager\\", QLatin1Char('\\')};
     const VcdxripInputs posix{
         "/img/my movie & co.nrg", "/rip/$x; dir/d.xml", true, false, true, true, false, false,
         "/opt/app/VCDImager/",    QLatin1Char('/')};
-    QTest::newRow("bin, output in a drive's root")
-        << windows << "E:\\"
-        << R"("C:\app\VCDImager\vcdxrip.exe "  -v --output-file="E:\disc.xml" --bin-file="D:\img\movie.bin" > log.txt)"
-        << R"(echo Input image:     D:\img\movie.bin
+    QTest::newRow("bin, output in a drive's root") << windows << "E:\\"
+                                                   << R"(echo Input image:     D:\img\movie.bin
 echo Ouput directory: E:\
 echo Output XML file: disc.xml
-echo Option switches:  -v)";
+echo Option switches:  -v
+"C:\app\VCDImager\vcdxrip.exe "  -v --output-file="E:\disc.xml" --bin-file="D:\img\movie.bin" > log.txt)";
     QTest::newRow("posix nrg, shell characters, norip over nofiles")
         << posix << "/rip/$x; dir/"
-        << R"("/opt/app/VCDImager/vcdxrip.exe "  --sector-2336 --norip -v --output-file="/rip/$x; dir/d.xml" --nrg-file="/img/my movie & co.nrg" > log.txt)"
         << R"(echo Input image:     /img/my movie & co.nrg
 echo Ouput directory: /rip/$x; dir/
 echo Output XML file: d.xml
-echo Option switches:  --sector-2336 --norip -v)";
+echo Option switches:  --sector-2336 --norip -v
+"/opt/app/VCDImager/vcdxrip.exe "  --sector-2336 --norip -v --output-file="/rip/$x; dir/d.xml" --nrg-file="/img/my movie & co.nrg" > log.txt)";
 }
 
 void VcdxripDialogTest::commandAndScript() {
     QFETCH(VcdxripInputs, in);
     QFETCH(QString, jobDir);
-    QFETCH(QString, command);
-    QFETCH(QString, description);
+    QFETCH(QString, script);
     const JobPlan plan = BuildVcdxripJob(in);
-    QCOMPARE(plan.scriptLines, Script(description, command));
+    QCOMPARE(plan.scriptLines, Script(script));
     QCOMPARE(plan.jobDir, jobDir);
     QCOMPARE(plan.scriptPath, jobDir + "run.bat");
     QCOMPARE(plan.logPath, jobDir + "log.txt");
