@@ -15,8 +15,27 @@ class JobFrameTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { UseBuiltInterpreter(); }
-    void init();
-    void cleanup();
+    void init() {
+        fakes_.boxes.shown.clear(), events_.clear();
+        app_ = std::make_unique<FakeAppFolder>();
+        app_->addTool("tool.exe", "echo tool ran >&2; echo done > tool.out");
+        work_ = std::make_unique<QTemporaryDir>();
+        dialog_ = std::make_unique<QWidget>();
+        dialog_->show();
+        const auto report = [this] {
+            events_ << QString("report console=%1 minimised=%2")
+                           .arg(bool(frame_->console))
+                           .arg(dialog_->isMinimized());
+        };
+        frame_ =
+            std::make_unique<JobFrame>(*dialog_, fakes_.services, "Torvane -- Test Tool",
+                                       JobFrame::Hooks{report, [this] { events_ << "enable"; }});
+    }
+    void cleanup() {
+        fakes_.boxes.answers = {vbYes};
+        frame_->Form_Unload();
+        frame_.reset(), dialog_.reset();
+    }
     void aJobGoesFromGoToReportOnce();
     void unloadWhileRunningAsksAndYesEndsEveryProcess();
     void aJobThatCannotStartReturnsToIdle_data();
@@ -25,13 +44,10 @@ private slots:
 private:
     // A job in `jobDir` that runs the fake tool and ends at "pause".
     JobPlan plan(const QString& jobDir) const {
-        const QString dir = jobDir + '/';
-        return {{},
-                dir,
-                dir + "run.bat",
-                dir + "log.txt",
-                ScriptOpening("Test Tool")
-                    << '"' + app_->toolFolder() + "tool.exe\" > log.txt" << ScriptClosing()};
+        JobPlan plan{{}, jobDir + '/', jobDir + "/run.bat", jobDir + "/log.txt", {}};
+        plan.scriptLines = ScriptOpening("Test Tool")
+                           << '"' + app_->toolFolder() + "tool.exe\" > log.txt" << ScriptClosing();
+        return plan;
     }
     FakeServices fakes_;
     std::unique_ptr<FakeAppFolder> app_;
@@ -40,30 +56,6 @@ private:
     std::unique_ptr<JobFrame> frame_;
     QStringList events_;  // the hooks as they were called, with what they saw
 };
-
-void JobFrameTest::init() {
-    fakes_.boxes.shown.clear();
-    events_.clear();
-    app_ = std::make_unique<FakeAppFolder>();
-    app_->addTool("tool.exe", "echo tool ran >&2; echo done > tool.out");
-    work_ = std::make_unique<QTemporaryDir>();
-    dialog_ = std::make_unique<QWidget>();
-    dialog_->show();
-    const auto report = [this] {
-        events_ << QString("report console=%1 minimised=%2")
-                       .arg(bool(frame_->console))
-                       .arg(dialog_->isMinimized());
-    };
-    frame_ = std::make_unique<JobFrame>(*dialog_, fakes_.services, "Torvane -- Test Tool",
-                                        JobFrame::Hooks{report, [this] { events_ << "enable"; }});
-}
-
-void JobFrameTest::cleanup() {
-    fakes_.boxes.answers = {vbYes};
-    frame_->Form_Unload();
-    frame_.reset();
-    dialog_.reset();
-}
 
 void JobFrameTest::aJobGoesFromGoToReportOnce() {
     const QString list = work_->filePath("list.txt");
@@ -75,10 +67,10 @@ void JobFrameTest::aJobGoesFromGoToReportOnce() {
     QCOMPARE(ReadFile(job.scriptPath), JoinScriptLines(job.scriptLines).toUtf8());
     // Running: the console waits at "pause" with the tool's output on it.
     QVERIFY(WaitForPause(*frame_));
-    QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized());
-    QCOMPARE(frame_->console->title(), QStringLiteral("Torvane -- Test Tool"));
-    QCOMPARE(frame_->console->attribute(), 10);
-    QVERIFY(frame_->console->screenText().contains("tool ran"));
+    QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized() &&
+            frame_->console->attribute() == 10);
+    QVERIFY(frame_->console->title() == "Torvane -- Test Tool" &&
+            frame_->console->screenText().contains("tool ran"));
     QCOMPARE(ReadFile(work_->filePath("tool.out")), QByteArray("done\n"));
     QVERIFY(events_.isEmpty());
     // The key ends it: one report, console gone, still minimised; then idle and clean.
@@ -118,9 +110,8 @@ void JobFrameTest::aJobThatCannotStartReturnsToIdle_data() {
     QTest::addColumn<QString>("box");     // the start of the one box's text
     QTest::newRow("the one console in use") << true << ""
                                             << "Couldn't allocate console";
-    QTest::newRow("a script that cannot be written")
-        << false << "/gone"
-        << "The job script could not be written:\r\r<d>/gone/run.bat\r\r";
+    QTest::newRow("no script") << false << "/gone"
+                               << "The job script could not be written:\r\r<d>/gone/run.bat\r\r";
 }
 
 void JobFrameTest::aJobThatCannotStartReturnsToIdle() {
@@ -137,7 +128,7 @@ void JobFrameTest::aJobThatCannotStartReturnsToIdle() {
         taken.emplace();
     QCOMPARE(frame_->Start(plan(work_->path() + jobDir)), consoleTaken);
     QVERIFY(WaitForIdle(*frame_));
-    QTest::qWait(300);
+    QTest::qWait(300);  // time enough for a stale script to run
     QVERIFY(!frame_->running() && !frame_->console && !frame_->Timer1.Enabled());
     QCOMPARE(events_, QStringList{"enable"});
     QCOMPARE(fakes_.boxes.shown.size(), 1u);

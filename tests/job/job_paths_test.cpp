@@ -1,18 +1,12 @@
 // What every Go handler refuses before anything is written (paths that cannot be carried
-// through a job script, folders that a job cannot write into), the file dialog that takes a
-// typed name as it stands, and the viewer's failure.
+// through a job script, folders that a job cannot write into), and the viewer's failure.
 
-#include "job/desktop_services.h"
 #include "job/form_support.h"
 #include "tests/support/fake_services.h"
 
-#include <QApplication>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 using namespace torvane;
 
@@ -21,7 +15,6 @@ class JobPathsTest : public QObject {
 private slots:
     void refusals_data();
     void refusals();
-    void aTypedNameIsTakenAsItStands();
     void aFileWithoutAViewerIsNamedInABox();
 };
 
@@ -79,20 +72,6 @@ void JobPathsTest::refusals() {
              message.isEmpty());
     QVERIFY(boxes.shown.size() < 2);
     QCOMPARE(boxes.shown.empty() ? QString() : boxes.shown[0].text, message);
-}
-
-void JobPathsTest::aTypedNameIsTakenAsItStands() {
-    QTemporaryDir dir;
-    const QString typed = QStringLiteral("say \"hi\".xml");
-    QTimer::singleShot(100, [typed] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(typed);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    QtFileDialogs files;
-    QCOMPARE(files.saveFileName(QStringLiteral("All Files (*.*)|*.*"), 1, dir.path()),
-             std::optional<QString>(dir.filePath(typed)));
 }
 
 void JobPathsTest::aFileWithoutAViewerIsNamedInABox() {

@@ -1,6 +1,5 @@
 #pragma once
-// For dialog tests that drive a real job: a temporary application folder with tiny fake
-// tools, and the steps of a user at the console.
+// For tests that drive a real job: fake tools, and the steps of a user at the console.
 
 #include "job/cconsole.h"
 #include "job/job_frame.h"
@@ -20,12 +19,11 @@ namespace torvane::test {
 // How long a test waits for a job step before it fails (the job itself is fast).
 constexpr int kJobStepTimeoutMs = 20000;
 
-// Makes `torvane-cmd` of this build the interpreter of job scripts.
 inline void UseBuiltInterpreter() {
     CConsole::setInterpreterPath(QStringLiteral(TORVANE_APP_DIR "/torvane-cmd"));
 }
 
-// A temporary application folder with an empty VCDImager/ tool folder.
+// A temporary application folder with an empty tool folder.
 class FakeAppFolder {
 public:
     FakeAppFolder() { QDir(dir_.path()).mkpath(QStringLiteral("VCDImager")); }
@@ -52,7 +50,6 @@ private:
     QTemporaryDir dir_;
 };
 
-// Waits until the job's console shows the "pause" prompt.
 inline bool WaitForPause(JobFrame& frame) {
     return QTest::qWaitFor(
         [&frame] { return frame.console && frame.console->screenText().contains("Press any key"); },
@@ -72,14 +69,11 @@ inline bool WaitForIdle(JobFrame& frame) {
 inline bool ProcessIsGone(pid_t pid) {
     if (pid <= 0)
         return false;
-    if (::kill(pid, 0) == -1 && errno == ESRCH)
-        return true;
     QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
+    if ((::kill(pid, 0) == -1 && errno == ESRCH) || !stat.open(QIODevice::ReadOnly))
         return true;
     const QByteArray fields = stat.readAll();
-    const int afterName = fields.lastIndexOf(')');
-    return afterName >= 0 && fields.mid(afterName + 2, 1) == "Z";
+    return fields.mid(fields.lastIndexOf(')') + 2, 1) == "Z";
 }
 
 inline QByteArray ReadFile(const QString& path) {
@@ -87,7 +81,6 @@ inline QByteArray ReadFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Names of the listed controls of `form` that are enabled, in the list's order.
 inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
     QStringList enabled;
     for (const QString& name : names) {
@@ -98,7 +91,6 @@ inline QStringList EnabledControls(const QWidget& form, const QStringList& names
     return enabled;
 }
 
-// The arguments a recording tool wrote, one a line.
 inline QStringList RecordedArguments(const QString& argsFile) {
     QStringList args = QString::fromUtf8(ReadFile(argsFile)).split(QLatin1Char('\n'));
     args.removeLast();  // after the last line end
