@@ -1,13 +1,19 @@
-// The program's About dialog: its texts from the application folder and its links.
+// The program's About dialog: its texts from the application folder, its buttons and keys.
+// A console tool's About box: its caption and text, and the tool's dialog disabled until the
+// box closes, however it closes.
 
+#include "about/component_texts.h"
 #include "about/frmAbout.h"
+#include "about/mod_about.h"
+#include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,84 +22,83 @@ using namespace torvane;
 class AboutTest : public QObject {
     Q_OBJECT
 private slots:
-    void init();
-    void opensOnTheDescriptionFollowedByTheBuildDate();
-    void eachButtonShowsItsFile_data();
-    void eachButtonShowsItsFile();
-    void aMissingFileLeavesJustTheDate();
-    void linksOpenTheirAddressesAndKeepTheDialog();
+    void keys_data();
+    void keys();
+    void toolBox_data();
+    void toolBox();
 
 private:
-    void write(const QString& name, const QByteArray& text);
     test::FakeServices fakes_;
-    std::unique_ptr<QTemporaryDir> app_;
 };
 
-void AboutTest::write(const QString& name, const QByteArray& text) {
-    QFile file(app_->path() + QLatin1Char('/') + name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
+void AboutTest::keys_data() {
+    QTest::addColumn<QString>("focus");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("outcome");  // closed, the pane's text, or the link opened
+    const QString mail("mailto:torvane@example.org"), date("\nSaturday, 1 February 2003");
+    QTest::newRow("Enter on OK") << "cmdOK" << int(Qt::Key_Return) << "closed";
+    QTest::newRow("Enter on Author") << "cmd_author" << int(Qt::Key_Enter) << "author" + date;
+    QTest::newRow("a missing file") << "cmd_license" << int(Qt::Key_Space) << date.mid(1);
+    QTest::newRow("Enter in the pane") << "Text1" << int(Qt::Key_Return) << mail;
+    QTest::newRow("Escape on Author") << "cmd_author" << int(Qt::Key_Escape) << mail;
+    QTest::newRow("Website") << "cmd_website" << int(Qt::Key_Space)
+                             << "https://torvane.example.org/torvane.html";
+    QTest::newRow("Donate") << "cmd_donate" << int(Qt::Key_Space)
+                            << "https://torvane.example.org/donators.html";
 }
 
-void AboutTest::init() {
-    app_ = std::make_unique<QTemporaryDir>();
-    for (const char* name :
-         {"description", "requirements", "changelog", "vcdimager", "license", "author"})
-        write(QLatin1String(name) + QStringLiteral(".txt"), QByteArray(name) + " text\r\n");
+void AboutTest::keys() {
+    QFETCH(QString, focus);
+    QFETCH(int, key);
+    QTemporaryDir app;
+    QFile author(app.filePath("author.txt"));
+    QVERIFY(author.open(QIODevice::WriteOnly) && author.write("author\r\n") == 8);
+    author.close();
     fakes_.desktop.urls.clear();
-}
-
-void AboutTest::opensOnTheDescriptionFollowedByTheBuildDate() {
-    frmAbout about(fakes_.services, app_->path());
-    QCOMPARE(about.windowTitle(), QStringLiteral("About Torvane"));
-    QCOMPARE(about.Text1->toPlainText(),
-             QStringLiteral("description text\nSaturday, 1 February 2003"));
-    QVERIFY(about.Text1->isReadOnly());
-    QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
-}
-
-void AboutTest::eachButtonShowsItsFile_data() {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("description") << "cmd_description"
-                                 << "description";
-    QTest::newRow("author") << "cmd_author"
-                            << "author";
-}
-
-void AboutTest::eachButtonShowsItsFile() {
-    QFETCH(QString, button);
-    QFETCH(QString, file);
-    frmAbout about(fakes_.services, app_->path());
-    // The texts are read once, when the dialog opens.
-    write(file + QStringLiteral(".txt"), "changed later");
-    for (int press = 0; press < 2; ++press) {
-        about.findChild<QPushButton*>(button)->click();
-        QCOMPARE(about.Text1->toPlainText(),
-                 file + QStringLiteral(" text\nSaturday, 1 February 2003"));
-    }
-}
-
-void AboutTest::aMissingFileLeavesJustTheDate() {
-    QFile::remove(app_->path() + QStringLiteral("/license.txt"));
-    frmAbout about(fakes_.services, app_->path());
-    about.cmd_license->click();
-    QCOMPARE(about.Text1->toPlainText(), QStringLiteral("Saturday, 1 February 2003"));
-}
-
-void AboutTest::linksOpenTheirAddressesAndKeepTheDialog() {
-    frmAbout about(fakes_.services, app_->path());
+    frmAbout about(fakes_.services, app.path());
+    QVERIFY(author.remove());  // the texts are read once, as the dialog opens
     about.show();
-    about.cmd_website->click();
-    about.cmd_donate->click();
-    about.Command1->click();
-    about.cmd_website->click();
-    QCOMPARE(fakes_.desktop.urls.size(), 4);
-    QVERIFY(fakes_.desktop.urls[0].endsWith(QStringLiteral("/torvane.html")));
-    QVERIFY(fakes_.desktop.urls[1].endsWith(QStringLiteral("/donators.html")));
-    QVERIFY(fakes_.desktop.urls[2].startsWith(QStringLiteral("mailto:")));
-    QCOMPARE(fakes_.desktop.urls[3], fakes_.desktop.urls[0]);
-    QVERIFY(about.isVisible());
+    QVERIFY(QTest::qWaitForWindowActive(&about));
+    QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
+    QCOMPARE(QApplication::focusWidget(), about.cmdOK);
+    about.findChild<QWidget*>(focus)->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+    QVERIFY(fakes_.desktop.urls.size() < 2);
+    QTEST(about.isVisible() ? fakes_.desktop.urls.value(0, about.Text1->toPlainText()) : "closed",
+          "outcome");
+}
+
+void AboutTest::toolBox_data() {
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("firstLine");
+    QTest::newRow("cdxa2mpeg") << "About CDXA2MPEG"
+                               << "usage: cdxa2mpg infile [outfile]";
+    QTest::newRow("lkvcdxrip") << "About lkVCDxRIP"
+                               << "lkVCDxRIP 5.0.7.10(win32)";
+    for (const QString tool : {"vcdimager", "vcdxbuild", "vcdxminfo", "vcdxrip"})
+        QTest::newRow(qPrintable(tool))
+            << "About " + tool.toUpper() << tool + " (GNU VCDImager) 0.7.12";
+}
+
+void AboutTest::toolBox() {
+    const QString key = QTest::currentDataTag();
+    const int closeBy = key == "vcdxbuild" ? Qt::Key_Escape : key == "vcdxrip" ? Qt::Key_Return : 0;
+    frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
+    QPointer<QWidget> dialog = menu.openTool(key);  // the dialogs that exist so far
+    dialog ? dialog->findChild<QPushButton*>("cmd_about")->click() : ShowComponentAbout(key);
+    QPointer<QWidget> box;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        box = widget->objectName() == "frm_about_component" ? widget : box.data();
+    QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
+    QTEST(box->windowTitle(), "caption");
+    auto* text = box->findChild<QPlainTextEdit*>("Text1");
+    QCOMPARE(text->toPlainText(), QString(ComponentAboutFor(key)->text).replace("\r\n", "\n"));
+    QTEST(text->toPlainText().section('\n', 0, 0), "firstLine");
+    QVERIFY(text->isReadOnly() && (!dialog || (!dialog->isEnabled() && dialog->isVisible())));
+    closeBy ? QTest::keyClick(text, Qt::Key(closeBy)) : void(box->close());  // 0: the title bar
+    QTRY_VERIFY(!box);
+    QVERIFY(!dialog || dialog->isEnabled());
+    delete dialog;
 }
 
 QTEST_MAIN(AboutTest)

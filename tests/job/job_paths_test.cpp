@@ -1,132 +1,88 @@
 // What every Go handler refuses before anything is written (paths that cannot be carried
 // through a job script, folders that a job cannot write into), and the viewer's failure.
 
-#include "job/job_paths.h"
-#include "job/desktop_services.h"
 #include "job/form_support.h"
 #include "tests/support/fake_services.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 using namespace torvane;
 
 class JobPathsTest : public QObject {
     Q_OBJECT
 private slots:
-    void unsafePaths_data();
-    void unsafePaths();
-    void unusableFolders();
+    void refusals_data();
+    void refusals();
     void aFileWithoutAViewerIsNamedInABox();
-    void fileDialogsOpenWhereTheUsersFilesAre();
-    void aTypedNameIsTakenAsItStands_data();
-    void aTypedNameIsTakenAsItStands();
 };
 
-void JobPathsTest::unsafePaths_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("reason");
-    const QString quote = QStringLiteral("It holds a double quote.");
-    const QString control = QStringLiteral(
-        "It holds a control character (a line break, a tab or an escape character).");
-    const QString backslash = QStringLiteral("It ends in a backslash.");
-    QTest::newRow("blanks and shell characters") << "/m/a b &;|<>$'`().mpg"
-                                                 << "";
-    QTest::newRow("non-ASCII letters and a leading dash") << "-Ärger/ñandú.mpg"
-                                                          << "";
-    QTest::newRow("backslash inside") << "/m/a\\b.mpg"
-                                      << "";
-    QTest::newRow("double quote") << "/m/say \"hi\".xml" << quote;
-    QTest::newRow("line feed") << "/m/movie\ntouch pwned\n.bin" << control;
-    QTest::newRow("carriage return") << "/m/a\rb.bin" << control;
-    QTest::newRow("escape drawing the end marker") << "/m/\x1b[H***end***.mpg" << control;
-    QTest::newRow("tab") << "/m/a\tb.mpg" << control;
-    QTest::newRow("delete character") << "/m/a\x7f.mpg" << control;
-    QTest::newRow("trailing backslash") << "/m/dir\\" << backslash;
-}
-
-void JobPathsTest::unsafePaths() {
-    QFETCH(QString, path);
-    QFETCH(QString, reason);
-    QCOMPARE(UnsafePathReason(path), reason);
-    const QString message = UnsafePathMessage({QStringLiteral("/fine.mpg"), path});
-    QCOMPARE(message.isEmpty(), reason.isEmpty());
-    if (!reason.isEmpty()) {
-        // The message names the path as it can be shown, and why.
-        QVERIFY(message.contains(ShownPath(path)));
-        QVERIFY(message.contains(reason));
-        QVERIFY(!ShownPath(path).contains(QLatin1Char('\n')));
-    }
-}
-
-void JobPathsTest::unusableFolders() {
-    QTemporaryDir dir;
-    const QString missing = dir.filePath(QStringLiteral("gone/"));
-    QFile file(dir.filePath(QStringLiteral("plain")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(UnusableFolderMessage(dir.path() + QLatin1Char('/')), QString());
-    QCOMPARE(UnusableFolderMessage(missing),
-             QStringLiteral("The folder does not exist:\r\r") + missing +
-                 QStringLiteral("\r\rPlease choose a folder that exists."));
-    QVERIFY(UnusableFolderMessage(file.fileName()).startsWith("The folder does not exist"));
+void JobPathsTest::refusals_data() {
+    QTest::addColumn<QString>("path");     // a file the job reads or writes
+    QTest::addColumn<QString>("folder");   // a folder it writes into; <d>: the test's folder
+    QTest::addColumn<QString>("message");  // the one box's text, empty for none
+    const auto refusal = [](const char* shown, const char* why) {
+        return QStringLiteral(
+                   "This file name cannot be passed to the tool:\r\r%1\r\r%2\rPlease "
+                   "rename the file or choose another one.")
+            .arg(QString::fromUtf8(shown), QLatin1String(why));
+    };
+    const auto file = [&](const char* name, const char* path, const char* shown, const char* why) {
+        QTest::newRow(name) << QString::fromUtf8(path) << "<d>/"
+                            << (*why ? refusal(shown, why) : QString());
+    };
+    const char* control =
+        "It holds a control character (a line break, a tab or an escape "
+        "character).";
+    file("fine: blanks, shell characters, non-ASCII, a leading dash, an inner backslash",
+         "-/m/a b &;|<>$'`()Ärger\\ñandú.mpg", "", "");
+    file("a double quote", "/m/say \"hi\".xml", "/m/say \"hi\".xml", "It holds a double quote.");
+    file("line feeds", "/m/movie\ntouch x\n.bin", "/m/movie?touch x?.bin", control);
+    file("an escape drawing the end marker", "/m/\x1b[H***end***", "/m/?[H***end***", control);
+    file("a carriage return, a tab, a delete", "/m/a\rb\t\x7f", "/m/a?b??", control);
+    file("a trailing backslash", "/m/dir\\", "/m/dir\\", "It ends in a backslash.");
+    const QString missing(
+        "The folder does not exist:\r\r%1\r\rPlease choose a folder that exists.");
+    QTest::newRow("a missing folder") << "/a.mpg"
+                                      << "<d>/gone/" << missing.arg("<d>/gone/");
+    QTest::newRow("a file for a folder") << "/a.mpg"
+                                         << "<d>/plain" << missing.arg("<d>/plain");
     // procfs refuses writes even to root, as a read-only folder refuses them to a user.
-    QCOMPARE(UnusableFolderMessage(QStringLiteral("/proc/self/")),
-             QStringLiteral("The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a "
-                            "folder that you may write to."));
+    QTest::newRow("a folder that cannot be written")
+        << "/a.mpg"
+        << "/proc/self/"
+        << "The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a folder that you "
+           "may write to.";
+    QTest::newRow("the file is refused first")
+        << "/a\""
+        << "<d>/gone/" << refusal("/a\"", "It holds a double quote.");
+}
+
+void JobPathsTest::refusals() {
+    QFETCH(QString, path);
+    QFETCH(QString, folder);
+    QFETCH(QString, message);
+    QTemporaryDir dir;
+    QFile(dir.filePath("plain")).open(QIODevice::WriteOnly);
+    folder.replace("<d>", dir.path());
+    message.replace("<d>", dir.path());
+    test::FakeMessageBoxes boxes;
+    QCOMPARE(GoMayProceed(boxes, {}, {QStringLiteral("/fine.mpg"), path}, {dir.path(), folder}),
+             message.isEmpty());
+    QVERIFY(boxes.shown.size() < 2);
+    QCOMPARE(boxes.shown.empty() ? QString() : boxes.shown[0].text, message);
 }
 
 void JobPathsTest::aFileWithoutAViewerIsNamedInABox() {
     test::FakeServices fakes;
     OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
-    QVERIFY(fakes.boxes.shown.empty());
     fakes.desktop.viewerFound = false;
     OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
-    QCOMPARE(fakes.boxes.shown.size(), 1u);
+    QCOMPARE(fakes.desktop.viewed.size(), 2);
+    QCOMPARE(fakes.boxes.shown.size(), 1u);  // only for the second
     QCOMPARE(fakes.boxes.shown[0].text,
              QStringLiteral("No program on this desktop opens the file:\r\r/out/log.txt"));
-    QCOMPARE(fakes.desktop.viewed.size(), 2);
-}
-
-void JobPathsTest::fileDialogsOpenWhereTheUsersFilesAre() {
-    QTemporaryDir dir;
-    const QString picked = dir.filePath(QStringLiteral("disc one/movie.bin"));
-    QVERIFY(QDir().mkpath(QFileInfo(picked).path()));
-    QCOMPARE(BrowseStartFolder(QString()), QDir::homePath());  // nothing picked yet
-    test::FakeServices fakes;
-    QLineEdit box;
-    fakes.files.names = {picked};
-    Browse(fakes.files, BrowseKind::Open, QStringLiteral("All|*.*"), box);
-    QCOMPARE(fakes.files.calls.at(0).folder, QDir::homePath());
-    QCOMPARE(box.text(), picked);
-    QCOMPARE(BrowseStartFolder(QString()), QFileInfo(picked).path());
-    QCOMPARE(BrowseStartFolder(QStringLiteral("/no/such/folder/x.xml")), QFileInfo(picked).path());
-    QCOMPARE(BrowseStartFolder(dir.filePath(QStringLiteral("other.xml"))), dir.path());
-}
-
-void JobPathsTest::aTypedNameIsTakenAsItStands_data() {
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("a plain name") << "report.xml";
-    QTest::newRow("a name with double quotes") << "say \"hi\".xml";
-}
-
-void JobPathsTest::aTypedNameIsTakenAsItStands() {
-    QFETCH(QString, typed);
-    QTemporaryDir dir;
-    QTimer::singleShot(100, [typed] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(typed);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    QtFileDialogs files;
-    QCOMPARE(files.saveFileName(QStringLiteral("All Files (*.*)|*.*"), 1, dir.path()),
-             std::optional<QString>(dir.filePath(typed)));
 }
 
 QTEST_MAIN(JobPathsTest)

@@ -1,12 +1,13 @@
-// The subindices remover dialog: the checks ahead of the work, the overwrite question, the
-// rewritten file on disk and the closing question, as one table of what a user does.
+// The subindices remover: its rule (copy-permit flags and subindices go, every other line
+// passes byte for byte, joined by CR LF with nothing behind the last line), and its dialog
+// (the checks ahead of the work, the overwrite question, the file on disk, the last question).
 
 #include "additional/frm_subindex.h"
 #include "shell/frm_mainmenu.h"
+#include "shell/mod_general.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/job_driver.h"
 
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -15,63 +16,96 @@ using namespace torvane::test;
 
 namespace {
 const QByteArray kSheet(
-    "FILE \"movie.bin\" BINARY\r\n  TRACK 01 MODE2/2352\r\n    FLAGS DCP\r\n"
-    "    INDEX 01 00:00:00\r\n  TRACK 02 MODE2/2352\r\n    INDEX 01 00:12:00\r\n"
-    "    INDEX 02 05:30:00\r\n\r\n");
+    "FILE \"m.bin\" BINARY\r\n  TRACK 01 MODE2/2352\r\n    FLAGS DCP\r\n    INDEX 01 00:00:00\r\n"
+    "  TRACK 02 MODE2/2352\r\n    INDEX 00 00:10:00\r\n    INDEX 01 00:12:00\r\n"
+    "    INDEX 02 05:30:00\r\n    INDEX 10 11:00:00\r\n    INDEX 2 1\r\n    INDEX  5 0\r\n"
+    "    INDEX 02\r\n\r\n");
 const QByteArray kRewritten(
-    "FILE \"movie.bin\" BINARY\r\n  TRACK 01 MODE2/2352\r\n    INDEX 01 00:00:00\r\n"
-    "  TRACK 02 MODE2/2352\r\n    INDEX 01 00:12:00");
-const QString kCreated =
-    QStringLiteral("The new cuesheet has been created!\r\rDo you want to open up the CUE file?");
+    "FILE \"m.bin\" BINARY\r\n  TRACK 01 MODE2/2352\r\n    INDEX 01 00:00:00\r\n"
+    "  TRACK 02 MODE2/2352\r\n    INDEX 00 00:10:00\r\n    INDEX 01 00:12:00");
 }  // namespace
 
 class SubindexDialogTest : public QObject {
     Q_OBJECT
 private slots:
+    void rule_data();
+    void rule();
     void go_data();
     void go();
-    void aFullDiskKeepsTheSheetAndSaysSo();
 };
 
+void SubindexDialogTest::rule_data() {
+    QTest::addColumn<QByteArray>("sheet");
+    QTest::addColumn<QByteArray>("result");
+    QTest::newRow("a worked sheet") << kSheet << kRewritten;
+    // Judged by exact text at fixed places: none of these is a flag or a subindex.
+    const QByteArray lookalikes(
+        "FILE\r\n    INDEX 1 00:00:00\r\n    INDEX\r\n    INDEX xx 0\r\n    INDEX a2 0\r\n"
+        "  INDEX 02 0\r\n\tINDEX 02 0\r\n    index 02 0\r\n    FLAGS DCP \r\n    FLAGS 4CH\r\n"
+        "    flags dcp");
+    QTest::newRow("look-alikes stay") << lookalikes << lookalikes;
+    for (const char* sheet : {"", "\r\n\n\r\r\n\r", "    FLAGS DCP\r\n    INDEX 02 0\r\n"})
+        QTest::newRow("nothing left") << QByteArray(sheet) << QByteArray();
+    QTest::newRow("any byte passes, only CR LF ends a line")
+        << QByteArray("REM \xc3\xa4\xff\x01\r\r\nFILE\n    INDEX 02 0\n\n")
+        << QByteArray("REM \xc3\xa4\xff\x01\r\r\nFILE\n    INDEX 02 0");
+    QTest::newRow("empty lines ahead of the first text go, a blank line is text")
+        << QByteArray("\r\n    FLAGS DCP\r\n\r\n  \r\nFILE\r\n\r\n  TRACK 01")
+        << QByteArray("  \r\nFILE\r\n\r\n  TRACK 01");
+    QTest::newRow("the end is text, never a flag a lone CR hid")
+        << QByteArray("FILE\r\r\n\r\n    FLAGS DCP\r\r\n    INDEX 03 0\r\n\n")
+        << QByteArray("FILE");
+    QTest::newRow("more than 32767 lines")
+        << "FILE" + QByteArray("\r\n  TRACK 01\r\n    INDEX 01 0\r\n    INDEX 02 0").repeated(20000)
+        << "FILE" + QByteArray("\r\n  TRACK 01\r\n    INDEX 01 0").repeated(20000);
+}
+
+void SubindexDialogTest::rule() {
+    QFETCH(QByteArray, sheet);
+    QFETCH(QByteArray, result);
+    const QByteArray once = RemoveSubindices(sheet);
+    QCOMPARE(once, result);
+    QCOMPARE(RemoveSubindices(once), once);  // a cleaned sheet stays as it is
+}
+
 void SubindexDialogTest::go_data() {
-    QTest::addColumn<QString>("input");  // names in the test's folder, which holds in.cue
+    QTest::addColumn<QString>("input");  // names in the test's folder <d>, which holds in.cue
     QTest::addColumn<QString>("output");
+    QTest::addColumn<bool>("diskFull");
     QTest::addColumn<QList<int>>("answers");
-    QTest::addColumn<QStringList>("boxes");   // the start of each box's text
+    QTest::addColumn<QString>("boxes");       // the boxes' texts, joined by '|'
     QTest::addColumn<QByteArray>("written");  // what the output holds afterwards
-    const QString overwrite = QStringLiteral("Are you sure that you want to overwrite:\r\r");
-    QTest::newRow("no input") << ""
-                              << "out.cue" << QList<int>{}
-                              << QStringList{"You have not selected a CUE file to open!"}
-                              << QByteArray();
-    QTest::newRow("no output") << "in.cue"
-                               << "" << QList<int>{}
-                               << QStringList{"You have not set a destination CUE file to save!"}
-                               << QByteArray();
-    QTest::newRow("an output folder that does not exist")
-        << "in.cue"
-        << "gone/out.cue" << QList<int>{} << QStringList{"The folder does not exist:"}
-        << QByteArray();
-    QTest::newRow("a new name, opened afterwards")
-        << "in.cue"
-        << "out.cue" << QList<int>{vbYes} << QStringList{kCreated} << kRewritten;
-    QTest::newRow("the same name, overwrite No")
-        << "in.cue"
-        << "in.cue" << QList<int>{vbNo} << QStringList{overwrite} << kSheet;
-    QTest::newRow("the same name, overwrite Yes")
-        << "in.cue"
-        << "in.cue" << QList<int>{vbYes, vbNo} << QStringList{overwrite, kCreated} << kRewritten;
-    QTest::newRow("an input that cannot be read")
-        << "gone.cue"
-        << "out.cue" << QList<int>{} << QStringList{"The CUE file could not be read:\r\r"}
-        << QByteArray();
+    const auto row = [](const char* name, const char* in, const char* out, bool full,
+                        QList<int> answers, const QString& boxes, const QByteArray& written) {
+        QTest::newRow(name) << in << out << full << answers << boxes << written;
+    };
+    const QString overwrite("Are you sure that you want to overwrite:\r\r<d>/in.cue");
+    const QString made(
+        "The new cuesheet has been created!\r\rDo you want to open up the CUE file?");
+    row("no input", "", "out.cue", false, {}, "You have not selected a CUE file to open!", {});
+    row("no output", "in.cue", "", false, {}, "You have not set a destination CUE file to save!",
+        {});
+    row("an output folder that does not exist", "in.cue", "gone/out.cue", false, {},
+        "The folder does not exist:\r\r<d>/gone/\r\rPlease choose a folder that exists.", {});
+    row("a new name, opened afterwards", "in.cue", "out.cue", false, {vbYes}, made, kRewritten);
+    row("the same name, overwrite No", "in.cue", "in.cue", false, {vbNo}, overwrite, kSheet);
+    row("the same name, overwrite Yes", "in.cue", "in.cue", false, {vbYes, vbNo},
+        overwrite + '|' + made, kRewritten);
+    row("an input that cannot be read", "gone.cue", "out.cue", false, {},
+        "The CUE file could not be read:\r\r<d>/gone.cue", {});
+    row("a full disk keeps the sheet and says so", "in.cue", "in.cue", true, {vbYes},
+        overwrite +
+            "|The file could not be written:\r\r<d>/in.cue\r\rFile too large\r\rAny file "
+            "of that name is as it was before.",
+        kSheet);
 }
 
 void SubindexDialogTest::go() {
     QFETCH(QString, input);
     QFETCH(QString, output);
+    QFETCH(bool, diskFull);
     QFETCH(QList<int>, answers);
-    QFETCH(QStringList, boxes);
+    QFETCH(QString, boxes);
     QFETCH(QByteArray, written);
     QTemporaryDir dir;
     QFile sheet(dir.filePath("in.cue"));
@@ -87,46 +121,24 @@ void SubindexDialogTest::go() {
     dialog->cmd_input->click();
     dialog->cmd_output->click();
     fakes.boxes.answers.assign(answers.begin(), answers.end());
-    dialog->cmd_rip->click();
-
-    QCOMPARE(fakes.boxes.shown.size(), size_t(boxes.size()));
-    for (int i = 0; i < boxes.size(); ++i)
-        QVERIFY2(fakes.boxes.shown[i].text.startsWith(boxes[i]),
-                 qPrintable(fakes.boxes.shown[i].text));
-    if (boxes.first().startsWith(QStringLiteral("Are you sure")))
-        QCOMPARE(fakes.boxes.shown[0].defaultAnswer, vbNo);
-    QCOMPARE(ReadFile(path(output)), written);
-    if (input != output)
-        QCOMPARE(ReadFile(dir.filePath("in.cue")), kSheet);  // the input is never touched
-    QCOMPARE(fakes.desktop.viewed, answers.value(boxes.size() - 1) == vbYes && written == kRewritten
-                                       ? QStringList{path(output)}
-                                       : QStringList());
-    QVERIFY(dialog->close());
-}
-
-void SubindexDialogTest::aFullDiskKeepsTheSheetAndSaysSo() {
-    QTemporaryDir dir;
-    const QString cue = dir.filePath("in.cue");
-    QFile sheet(cue);
-    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write(kSheet) == kSheet.size());
-    sheet.close();
-    FakeServices fakes;
-    frm_mainmenu menu(fakes.services, dir.path());
-    auto* dialog = qobject_cast<frm_subindex*>(menu.openTool(QStringLiteral("subindex")));
-    fakes.files.names = {cue, cue};
-    dialog->cmd_input->click();
-    dialog->cmd_output->click();
-    fakes.boxes.answers = {vbYes};  // overwrite
     {
-        FileSizeLimit full(40);
+        std::optional<FileSizeLimit> full;
+        if (diskFull)
+            full.emplace(40);
         dialog->cmd_rip->click();
     }
-    QCOMPARE(fakes.boxes.shown.size(), 2u);  // the question, then the failure; no success
-    QCOMPARE(fakes.boxes.shown[1].text,
-             "The file could not be written:\r\r" + cue +
-                 "\r\rFile too large\r\rAny file of that name is as it was before.");
-    QCOMPARE(ReadFile(cue), kSheet);
-    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"in.cue"});
+    QStringList shown;
+    for (const MessageBoxRequest& box : fakes.boxes.shown)
+        shown << box.text;
+    QCOMPARE(shown.join('|'), boxes.replace("<d>", dir.path()));
+    QVERIFY(!boxes.startsWith("Are") || fakes.boxes.shown[0].defaultAnswer == vbNo);
+    QCOMPARE(ReadFile(path(output)), written);
+    QCOMPARE(ReadFile(dir.filePath("in.cue")), input == output ? written : kSheet);
+    // Nothing is left beside the sheets: no half-written file of a failed save.
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(),
+             input != output && !written.isEmpty() ? 2 : 1);
+    const bool opened = answers.value(shown.size() - 1) == vbYes && written == kRewritten;
+    QCOMPARE(fakes.desktop.viewed, opened ? QStringList{path(output)} : QStringList());
     QVERIFY(dialog->close());
 }
 

@@ -53,12 +53,9 @@ public:
 private:
     std::optional<QString> next(const Call& call) {
         calls.push_back(call);
-        if (names.empty() || !names.front().has_value()) {
-            if (!names.empty())
-                names.pop_front();
+        if (names.empty())
             return std::nullopt;
-        }
-        const QString name = *names.front();
+        const std::optional<QString> name = names.front();
         names.pop_front();
         return name;
     }

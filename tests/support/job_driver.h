@@ -1,13 +1,11 @@
 #pragma once
-// Helpers for dialog tests that drive a real job: a temporary application folder with
-// tiny fake tools, and the steps of a user at the console.
+// For tests that drive a real job: fake tools, and the steps of a user at the console.
 
 #include "job/cconsole.h"
 #include "job/job_frame.h"
 #include "tests/support/fake_services.h"
 
 #include <QAbstractButton>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -21,12 +19,11 @@ namespace torvane::test {
 // How long a test waits for a job step before it fails (the job itself is fast).
 constexpr int kJobStepTimeoutMs = 20000;
 
-// Makes `torvane-cmd` of this build the interpreter of job scripts.
 inline void UseBuiltInterpreter() {
     CConsole::setInterpreterPath(QStringLiteral(TORVANE_APP_DIR "/torvane-cmd"));
 }
 
-// A temporary application folder with an empty VCDImager/ tool folder.
+// A temporary application folder with an empty tool folder.
 class FakeAppFolder {
 public:
     FakeAppFolder() { QDir(dir_.path()).mkpath(QStringLiteral("VCDImager")); }
@@ -35,10 +32,8 @@ public:
 
     // A tool that runs `body` under /bin/sh: it sees its arguments as "$@".
     void addTool(const QString& name, const QByteArray& body) const {
-        const QString toolPath = toolFolder() + name;
-        QFile file(toolPath);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("#!/bin/sh\n" + body + "\n");
+        QFile file(toolFolder() + name);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("#!/bin/sh\n" + body + "\n") > 0);
         file.close();
         QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
@@ -46,24 +41,18 @@ public:
     // A tool that writes its arguments, one per line, to `argsFile` and prints `output`.
     void addRecordingTool(const QString& name, const QString& argsFile,
                           const QByteArray& output = {}) const {
-        QByteArray body = "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
-                          QFile::encodeName(argsFile) + "'\n";
-        if (!output.isEmpty())
-            body += "printf '" + output + "'\n";
-        addTool(name, body);
+        addTool(name, "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
+                          QFile::encodeName(argsFile) + "'\n" +
+                          (output.isEmpty() ? QByteArray() : "printf '" + output + "'\n"));
     }
 
 private:
     QTemporaryDir dir_;
 };
 
-// Waits until the job's console shows the "pause" prompt.
 inline bool WaitForPause(JobFrame& frame) {
     return QTest::qWaitFor(
-        [&frame] {
-            return frame.console &&
-                   frame.console->screenText().contains(QStringLiteral("Press any key"));
-        },
+        [&frame] { return frame.console && frame.console->screenText().contains("Press any key"); },
         kJobStepTimeoutMs);
 }
 
@@ -72,7 +61,6 @@ inline void PressKeyInConsole(JobFrame& frame) {
     QTest::keyClick(frame.console->window(), Qt::Key_Space);
 }
 
-// Waits until the job is back to Idle.
 inline bool WaitForIdle(JobFrame& frame) {
     return QTest::qWaitFor([&frame] { return frame.job_running == 0; }, kJobStepTimeoutMs);
 }
@@ -81,14 +69,11 @@ inline bool WaitForIdle(JobFrame& frame) {
 inline bool ProcessIsGone(pid_t pid) {
     if (pid <= 0)
         return false;
-    if (::kill(pid, 0) == -1 && errno == ESRCH)
-        return true;
     QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
+    if ((::kill(pid, 0) == -1 && errno == ESRCH) || !stat.open(QIODevice::ReadOnly))
         return true;
     const QByteArray fields = stat.readAll();
-    const int afterName = fields.lastIndexOf(')');
-    return afterName >= 0 && fields.mid(afterName + 2, 1) == "Z";
+    return fields.mid(fields.lastIndexOf(')') + 2, 1) == "Z";
 }
 
 inline QByteArray ReadFile(const QString& path) {
@@ -96,7 +81,6 @@ inline QByteArray ReadFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Names of the listed controls of `form` that are enabled, in the list's order.
 inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
     QStringList enabled;
     for (const QString& name : names) {
@@ -107,7 +91,6 @@ inline QStringList EnabledControls(const QWidget& form, const QStringList& names
     return enabled;
 }
 
-// The arguments a recording tool wrote, one a line.
 inline QStringList RecordedArguments(const QString& argsFile) {
     QStringList args = QString::fromUtf8(ReadFile(argsFile)).split(QLatin1Char('\n'));
     args.removeLast();  // after the last line end
@@ -125,20 +108,6 @@ inline bool RunJobToIdle(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes&
     return WaitForIdle(frame);
 }
 
-// Go refused by `boxes`' one information box, whose text begins with `message`: no job,
-// no file written in `folder`, Go still usable.
-inline void ExpectRefusal(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes& boxes,
-                          const QString& message, const QString& folder) {
-    boxes.shown.clear();
-    go.click();
-    QCOMPARE(boxes.shown.size(), 1u);
-    QCOMPARE(boxes.shown[0].title, QStringLiteral("Information"));
-    QVERIFY2(boxes.shown[0].text.startsWith(message), qPrintable(boxes.shown[0].text));
-    QVERIFY(!frame.running() && !frame.Timer1.Enabled());
-    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
-    QVERIFY(go.isEnabled());
-}
-
 // A table of Go refusals: the names picked for input and output (a relative name lies in
 // the test's folder) and the start of the one box Go shows.
 inline void AddRefusalColumns() {
@@ -153,7 +122,8 @@ inline void RefusalRow(const char* name, const char* input, const char* output,
                         << QString::fromUtf8(message);
 }
 
-// Picks the row's names through the dialog's two browse buttons, then expects the refusal.
+// Picks the row's names through the dialog's two browse buttons, then expects Go to be
+// refused by one information box: no job, no file written in `folder`, Go still usable.
 inline void PickAndExpectRefusal(FakeServices& fakes, QWidget& dialog, JobFrame& frame,
                                  const QString& folder) {
     QFETCH(QString, input);
@@ -165,8 +135,15 @@ inline void PickAndExpectRefusal(FakeServices& fakes, QWidget& dialog, JobFrame&
     fakes.files.names = {inFolder(input), inFolder(output)};
     dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_input"))->click();
     dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_output"))->click();
-    ExpectRefusal(*dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_rip")), frame,
-                  fakes.boxes, message, folder);
+    auto& go = *dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_rip"));
+    fakes.boxes.shown.clear();
+    go.click();
+    QCOMPARE(fakes.boxes.shown.size(), 1u);
+    QCOMPARE(fakes.boxes.shown[0].title, QStringLiteral("Information"));
+    QVERIFY2(fakes.boxes.shown[0].text.startsWith(message), qPrintable(fakes.boxes.shown[0].text));
+    QVERIFY(!frame.running() && !frame.Timer1.Enabled());
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
+    QVERIFY(go.isEnabled());
 }
 
 // Closes a tool dialog as a test ends, answering Yes should a job still run.
