@@ -64,14 +64,14 @@ void JobFrameTest::aJobGoesFromGoToReportOnce() {
     QVERIFY(frame_->Start(job, {list}));
     // Armed: the script is on disk as written, the first tick not yet come.
     QVERIFY(frame_->job_running == -1 && frame_->Timer1.Tag == "0" && !frame_->console);
-    QCOMPARE(ReadFile(job.scriptPath), JoinScriptLines(job.scriptLines).toUtf8());
+    QCOMPARE(ReadBytes(job.scriptPath), JoinScriptLines(job.scriptLines).toUtf8());
     // Running: the console waits at "pause" with the tool's output on it.
     QVERIFY(WaitForPause(*frame_));
     QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized() &&
             frame_->console->attribute() == 10);
     QVERIFY(frame_->console->title() == "Torvane -- Test Tool" &&
             frame_->console->screenText().contains("tool ran"));
-    QCOMPARE(ReadFile(work_->filePath("tool.out")), QByteArray("done\n"));
+    QCOMPARE(ReadBytes(work_->filePath("tool.out")), QByteArray("done\n"));
     QVERIFY(events_.isEmpty());
     // The key ends it: one report, console gone, still minimised; then idle and clean.
     PressKeyInConsole(*frame_);
@@ -87,8 +87,8 @@ void JobFrameTest::unloadWhileRunningAsksAndYesEndsEveryProcess() {
     const QString pidFile = work_->filePath("tool.pid");
     app_->addTool("tool.exe", "echo $$ > '" + QFile::encodeName(pidFile) + "'\nexec sleep 60");
     QVERIFY(frame_->Start(plan(work_->path())));
-    QTRY_VERIFY_WITH_TIMEOUT(!ReadFile(pidFile).isEmpty(), kJobStepTimeoutMs);
-    const pid_t toolPid = ReadFile(pidFile).trimmed().toInt();
+    QTRY_VERIFY_WITH_TIMEOUT(!ReadBytes(pidFile).isEmpty(), kJobStepTimeoutMs);
+    const pid_t toolPid = ReadBytes(pidFile).trimmed().toInt();
     const pid_t interpreterPid = frame_->console->processId();
     fakes_.boxes.answers = {vbNo};
     QVERIFY(!frame_->Form_Unload());
@@ -98,9 +98,9 @@ void JobFrameTest::unloadWhileRunningAsksAndYesEndsEveryProcess() {
     QVERIFY(frame_->running() && frame_->console && frame_->Timer1.Enabled());
     fakes_.boxes.answers = {vbYes};
     QVERIFY(frame_->Form_Unload());
-    QVERIFY(!frame_->running() && ProcessIsGone(interpreterPid));
+    QVERIFY(!frame_->running() && ProcessGone(interpreterPid));
     // The tool is the interpreter's child: the hang-up reaches it through its group.
-    QTRY_VERIFY_WITH_TIMEOUT(ProcessIsGone(toolPid), kJobStepTimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(toolPid), kJobStepTimeoutMs);
     QVERIFY(!QFile::exists(work_->filePath("run.bat")) && events_.isEmpty());
 }
 
@@ -119,9 +119,7 @@ void JobFrameTest::aJobThatCannotStartReturnsToIdle() {
     QFETCH(QString, jobDir);
     QFETCH(QString, box);
     // A stale script where the job would otherwise end up must not run either.
-    QFile stale(work_->filePath("run.bat"));
-    QVERIFY(stale.open(QIODevice::WriteOnly) && stale.write("echo stale > stale.out") > 0);
-    stale.close();
+    QVERIFY(WriteBytes(work_->filePath("run.bat"), "echo stale > stale.out"));
     QVERIFY(QDir::setCurrent(work_->path()));
     std::optional<CConsole> taken;
     if (consoleTaken)

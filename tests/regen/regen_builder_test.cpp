@@ -15,31 +15,18 @@ enum Stage { DetectFirst, DetectSecond, Rip, Build };
 
 // The script of a stage; "%c" stands for its command line.
 QStringList Script(Stage stage) {
-    if (stage == DetectFirst || stage == DetectSecond)
-        return {"echo off",
-                "cls",
-                "echo CUE/BIN Regenerator Tool - Stage 1 (quelmora productions)",
-                "echo " + QString(57, '='),
-                "echo Please wait...",
-                "echo.",
-                "%c",
-                "echo.",
-                "echo Finished!",
-                "cls",
-                "echo ***end***"};
-    return {"echo off",
-            "cls",
-            QString("echo CUE/BIN Regenerator - Phase %1 (quelmora productions)")
-                .arg(stage == Rip ? 2 : 3),
-            "echo " + QString(52, '='),
-            "echo.",
-            "echo Please wait for this process to complete. It may take",
-            "echo a few minutes.",
-            "%c",
-            "echo.",
-            "echo Finished!",
-            "cls",
-            "echo ***end***"};
+    const bool detect = stage == DetectFirst || stage == DetectSecond;
+    QStringList head{"echo off", "cls"};
+    if (detect)
+        head << "echo CUE/BIN Regenerator Tool - Stage 1 (quelmora productions)"
+             << "echo " + QString(57, '=') << "echo Please wait..." << "echo.";
+    else
+        head << QString("echo CUE/BIN Regenerator - Phase %1 (quelmora productions)")
+                    .arg(stage == Rip ? 2 : 3)
+             << "echo " + QString(52, '=') << "echo."
+             << "echo Please wait for this process to complete. It may take"
+             << "echo a few minutes.";
+    return head + QStringList{"%c", "echo.", "echo Finished!", "cls", "echo ***end***"};
 }
 
 // The head of vcd-info's report, as the adapter passes it on.
@@ -109,17 +96,9 @@ void RegenBuilderTest::jobsAreExact() {
     QCOMPARE(plan.scriptLines, Script(Stage(stage)).replaceInStrings("%c", commandLine));
 }
 
+// The texts the dialog shows that its own test does not reach.
 void RegenBuilderTest::namesAndBoxes() {
-    QCOMPARE(RegenValidation({"", "", "/t/", '/'}), "You have not set an output file!");
-    QCOMPARE(RegenValidation({"", "/o.bin", "/t/", '/'}), "You have not loaded an input XML file!");
-    QVERIFY(RegenValidation({"/i.bin", "/i.bin", "/t/", '/'}).isEmpty());
-    QVERIFY(RegenAsksOverwrite({"/a/x.bin", "/a/x.bin", "/t/", '/'}));
-    QVERIFY(!RegenAsksOverwrite({"/a/x.bin", "/a/X.bin", "/t/", '/'}));
-    QCOMPARE(RegenOverwriteQuestion(), "Are you sure you want to overwrite the \rexisting file?");
-    QCOMPARE(RegenCueName("/a/X.bin"), "/a/X.cue");
-    QCOMPARE(RegenCueName("/a/X"), "/a/X.cue");
     QCOMPARE(RegenCueName("/a/X.BIN"), "/a/X.BIN.cue");
-    QCOMPARE(RegenNotAVcdText(), "The BIN file you selected isn't that of a S(VCD)!");
     QCOMPARE(RegenRipFailureText(), "There appears to have been an error!\r");
     QCOMPARE(RegenBuildFailureText(), "There appears to have been an error!");
     QCOMPARE(RegenFinalReport("   INFO: finished ok, image created with 744 sectors [00:09:69]",
@@ -128,8 +107,6 @@ void RegenBuilderTest::namesAndBoxes() {
              "is an \rimage of a SVCD disc in 2336 byte sectors.\r\rThe image size is: 0 "
              "minutes, 9 seconds, 69 sectors.\r\rIt should fit on a 21min/180MB (8 cm) CD-R "
              "disc.");
-    QVERIFY(RegenRipSucceeded(QByteArray("   INFO: a\r\n   INFO: done\r\n")));
-    QVERIFY(!RegenRipSucceeded(std::nullopt));
     QVERIFY(!RegenBuildSucceeded(QByteArray("   INFO: done\r\n   INFO: done\r\n")));
 }
 

@@ -38,8 +38,11 @@ private slots:
     void closingDuringAStageLeavesOnlyTheUsersFiles();
 
 private:
+    void start(const QString& appDir, const QString& input, const QString& output,
+               std::deque<int> answers);
     Run go(const QString& appDir, const QString& input, const QString& output,
            std::deque<int> answers = {});
+    Run run_;
     QTemporaryDir* work_ = nullptr;
     QString in_, out_;
     std::unique_ptr<FakeServices> fakes_;
@@ -62,27 +65,33 @@ void RegenDialogTest::cleanup() {
     delete work_;
 }
 
-// Picks the two names, presses Go and waits until the run is over; `answers` go to the
-// boxes in turn.
-Run RegenDialogTest::go(const QString& appDir, const QString& input, const QString& output,
-                        std::deque<int> answers) {
+// Opens the dialog on the tools of `appDir`, picks the two names and presses Go; `answers`
+// go to the boxes in turn, and each box is recorded in run_.
+void RegenDialogTest::start(const QString& appDir, const QString& input, const QString& output,
+                            std::deque<int> answers) {
     fakes_ = std::make_unique<FakeServices>();
     menu_ = std::make_unique<frm_mainmenu>(fakes_->services, appDir);
     dialog_ = qobject_cast<frm_regen*>(menu_->openTool("regen"));
-    Run run;
+    run_ = Run();
     fakes_->boxes.answers = answers;
-    fakes_->boxes.onShow = [&](const MessageBoxRequest& box) {
-        run.boxes << box.text;
-        run.results.clear();
+    fakes_->boxes.onShow = [this](const MessageBoxRequest& box) {
+        run_.boxes << box.text;
+        run_.results.clear();
         for (int stage = 1; dialog_->status && stage <= 3; ++stage)
-            run.results << dialog_->status->row(stage).result->text();
+            run_.results << dialog_->status->row(stage).result->text();
     };
     fakes_->files.names = {input, output};
     dialog_->cmd_input->click();
     dialog_->cmd_output->click();
     dialog_->cmd_rip->click();
-    run.ended = QTest::qWaitFor([this] { return !dialog_->job_running; }, kRunTimeoutMs);
-    return run;
+}
+
+// Runs the dialog as start() does and waits until the run is over.
+Run RegenDialogTest::go(const QString& appDir, const QString& input, const QString& output,
+                        std::deque<int> answers) {
+    start(appDir, input, output, answers);
+    run_.ended = QTest::qWaitFor([this] { return !dialog_->job_running; }, kRunTimeoutMs);
+    return run_;
 }
 
 void RegenDialogTest::aRunEndsAsExpected_data() {
@@ -206,22 +215,15 @@ void RegenDialogTest::closingDuringAStageLeavesOnlyTheUsersFiles() {
     if (workFolderBefore)
         QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
     QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
-    fakes_ = std::make_unique<FakeServices>();
-    menu_ = std::make_unique<frm_mainmenu>(fakes_->services, app.path());
-    dialog_ = qobject_cast<frm_regen*>(menu_->openTool("regen"));
-    fakes_->files.names = {in_ + "/lost.bin", out_ + "/new.bin"};
-    dialog_->cmd_input->click();
-    dialog_->cmd_output->click();
-    dialog_->cmd_rip->click();
+    start(app.path(), in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
     const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
     QCOMPARE(dialog_->status->row(stage).result->text(), "Working...");
 
-    fakes_->boxes.answers = {vbYes};
     QVERIFY(dialog_->close());
     dialog_ = nullptr;
-    QCOMPARE(fakes_->boxes.shown.back().text,
-             "The command is still running!  Are you\rsure that you want to quit?");
+    QCOMPARE(run_.boxes,
+             QStringList{"The command is still running!  Are you\rsure that you want to quit?"});
     QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kJobStepTimeoutMs);
     QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
     QCOMPARE(ReadBytes(in_ + "/lost.bin"), QByteArray("disc"));

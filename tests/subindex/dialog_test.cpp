@@ -132,8 +132,8 @@ void SubindexDialogTest::go() {
         shown << box.text;
     QCOMPARE(shown.join('|'), boxes.replace("<d>", dir.path()));
     QVERIFY(!boxes.startsWith("Are") || fakes.boxes.shown[0].defaultAnswer == vbNo);
-    QCOMPARE(ReadFile(path(output)), written);
-    QCOMPARE(ReadFile(dir.filePath("in.cue")), input == output ? written : kSheet);
+    QCOMPARE(ReadBytes(path(output)), written);
+    QCOMPARE(ReadBytes(dir.filePath("in.cue")), input == output ? written : kSheet);
     // Nothing is left beside the sheets: no half-written file of a failed save.
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(),
              input != output && !written.isEmpty() ? 2 : 1);

@@ -4,6 +4,7 @@
 #include "job/cconsole.h"
 #include "job/job_frame.h"
 #include "tests/support/fake_services.h"
+#include "tests/support/tool_run.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -11,8 +12,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
-#include <cerrno>
-#include <csignal>
 
 namespace torvane::test {
 
@@ -32,10 +31,7 @@ public:
 
     // A tool that runs `body` under /bin/sh: it sees its arguments as "$@".
     void addTool(const QString& name, const QByteArray& body) const {
-        QFile file(toolFolder() + name);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("#!/bin/sh\n" + body + "\n") > 0);
-        file.close();
-        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(WriteScript(toolFolder() + name, body));
     }
 
     // A tool that writes its arguments, one per line, to `argsFile` and prints `output`.
@@ -65,22 +61,6 @@ inline bool WaitForIdle(JobFrame& frame) {
     return QTest::qWaitFor([&frame] { return frame.job_running == 0; }, kJobStepTimeoutMs);
 }
 
-// Gone, or a zombie waiting to be reaped by whoever adopted it: it runs no more.
-inline bool ProcessIsGone(pid_t pid) {
-    if (pid <= 0)
-        return false;
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if ((::kill(pid, 0) == -1 && errno == ESRCH) || !stat.open(QIODevice::ReadOnly))
-        return true;
-    const QByteArray fields = stat.readAll();
-    return fields.mid(fields.lastIndexOf(')') + 2, 1) == "Z";
-}
-
-inline QByteArray ReadFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
     QStringList enabled;
     for (const QString& name : names) {
@@ -92,7 +72,7 @@ inline QStringList EnabledControls(const QWidget& form, const QStringList& names
 }
 
 inline QStringList RecordedArguments(const QString& argsFile) {
-    QStringList args = QString::fromUtf8(ReadFile(argsFile)).split(QLatin1Char('\n'));
+    QStringList args = QString::fromUtf8(ReadBytes(argsFile)).split(QLatin1Char('\n'));
     args.removeLast();  // after the last line end
     return args;
 }

@@ -177,7 +177,7 @@ void VcdxbuildDialogTest::job() {
                                      : QStringList{"-v", "--image-type=bincue",
                                                    "--cue-file=" + cuePath, "--bin-file=" + image};
     QCOMPARE(RecordedArguments(args), expected + QStringList{input});
-    QCOMPARE(ReadFile(cuePath).contains("INDEX 02"), cue != "rewritten");
+    QCOMPARE(ReadBytes(cuePath).contains("INDEX 02"), cue != "rewritten");
     // Back to Idle with the interlock applied anew, the tick kept.
     QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
     QVERIFY(f.dialog.chk_subindex->isChecked());
