@@ -61,8 +61,7 @@ private slots:
     void aToolThatIsMissingOrFailsIsReported();
     void aToolEndsWithItsAdapter_data();
     void aToolEndsWithItsAdapter();
-    void aProcessLeftBehindByTheToolDoesNotHoldTheAdapter();
-    void anAdapterStartedWithChildSignalsIgnoredStillSeesItsTool();
+    void theToolsEndIsSeenWhateverItLeavesBehind();
 
 private:
     ToolRun run(const QString& adapter, const QStringList& args = {});
@@ -192,28 +191,20 @@ void AdapterFailuresTest::aToolEndsWithItsAdapter() {
     QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kEventTimeoutMs);
 }
 
-// The tool leaves a process behind that holds its output open for minutes.
-void AdapterFailuresTest::aProcessLeftBehindByTheToolDoesNotHoldTheAdapter() {
+// The tool leaves a process behind that holds its output open for minutes, and the adapter
+// starts with child signals ignored: neither hides the tool's end and status from it.
+void AdapterFailuresTest::theToolsEndIsSeenWhateverItLeavesBehind() {
     QVERIFY(WriteScript(kTools + "vcdxbuild", R"(sleep 300 &
 echo $! > "$0.pid"
-echo '<log level="information">writing</log>'
-echo '<log level="information">finished ok, image created with 10 sectors [00:00:10]</log>')"));
-    const ToolRun result = run("vcdxbuild");
+echo '<log level="information">finished ok, image created with 10 sectors [00:00:10]</log>'
+exit 4)"));
+    const QStringList args{"-c", "trap '' CHLD; exec \"$0\" \"$@\"", FAKE_APP_DIR "vcdxbuild.exe"};
+    const ToolRun result = RunProgram("/bin/bash", args + JobArguments("vcdxbuild", job_->path()),
+                                      job_->path(), job_->filePath("log.txt"), tmp_);
     ::kill(pid_t(ReadBytes(kTools + "vcdxbuild.pid").trimmed().toLongLong()), SIGKILL);
     QVERIFY(result.finished);
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY(DialogSeesSuccess("vcdxbuild", ReadBytes(job_->filePath("log.txt"))));
-}
-
-void AdapterFailuresTest::anAdapterStartedWithChildSignalsIgnoredStillSeesItsTool() {
-    QVERIFY(WriteScript(kTools + "vcdimager",
-                        "echo 'finished ok, image created with 1 sectors [00:00:01]'\nexit 4"));
-    const QStringList args{"-c", "trap '' CHLD; exec \"$0\" \"$@\"", FAKE_APP_DIR "vcdimager.exe"};
-    const ToolRun result = RunProgram("/bin/bash", args + JobArguments("vcdimager", job_->path()),
-                                      job_->path(), job_->filePath("log.txt"));
-    QVERIFY(result.finished);
     QCOMPARE(result.exitCode, 4);
-    QVERIFY(ReadBytes(job_->filePath("log.txt")).startsWith("   INFO: MPEG file from list.txt: "));
+    QVERIFY(ReadBytes(job_->filePath("log.txt")).startsWith("   INFO: finished ok"));
 }
 
 QTEST_GUILESS_MAIN(AdapterFailuresTest)
