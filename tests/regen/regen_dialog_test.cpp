@@ -29,13 +29,165 @@ struct Run {
 class RegenDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
-    void aRunEndsAsExpected_data();
-    void aRunEndsAsExpected();
-    void overwritingTheSourceNeedsAYes();
-    void closingDuringAStageLeavesOnlyTheUsersFiles_data();
-    void closingDuringAStageLeavesOnlyTheUsersFiles();
+    void init() {
+        UseBuiltInterpreter();
+        work_ = new QTemporaryDir;
+        in_ = FreshFolder(work_->path(), "dl & co; $HOME |<x>");
+        out_ = FreshFolder(work_->path(), "new 'image' ü");
+    }
+
+    void cleanup() {
+        if (dialog_)
+            dialog_->close();
+        dialog_ = nullptr;
+        menu_.reset();
+        delete work_;
+    }
+
+    void aRunEndsAsExpected_data() {
+        QTest::addColumn<QString>("image");      // copied as the lone BIN; none: none picked
+        QTest::addColumn<QString>("output");     // in the output folder; "=": the input itself
+        QTest::addColumn<QStringList>("boxes");  // of a success, the report's description
+        QTest::addColumn<QStringList>("results");
+        QTest::addColumn<QString>("rippedAs");  // the reference rip of the new pair, if any
+        const QStringList success{"Success!", "Success!", "Success!"}, none{};
+        const QString svcd = "image of a SVCD disc in 23%1 byte sectors.";
+        QTest::newRow("VCD 2.0, 2352")
+            << "vcd-2352.bin"
+            << "-new disc.bin" << QStringList{"image of a VCD 2.0 disc in 2352 byte sectors."}
+            << success << "ref-vcd";
+        QTest::newRow("VCD 2.0, 2336: found on the second attempt")
+            << "vcd-2336.bin"
+            << "new.bin" << QStringList{"image of a VCD 2.0 disc in 2336 byte sectors."} << success
+            << "ref-vcd";
+        QTest::newRow("SVCD, 2352, named without .bin")
+            << "svcd-2352.bin"
+            << "plain" << QStringList{svcd.arg(52)} << success << "ref-svcd";
+        QTest::newRow("SVCD, 2336, over its own source: Yes")
+            << "svcd-2336.bin"
+            << "=" << QStringList{svcd.arg(36)} << success << "ref-svcd";
+        QTest::newRow("an MPEG clip is no disc")
+            << "clip-vcd.mpg"
+            << "x.bin" << QStringList{"The BIN file you selected isn't that of a S(VCD)!"}
+            << QStringList{"Failed!", "", ""} << "";
+        QTest::newRow("both empty: the output first")
+            << ""
+            << "" << QStringList{"You have not set an output file!"} << none << "";
+        QTest::newRow("no input") << ""
+                                  << "n.bin"
+                                  << QStringList{"You have not loaded an input XML file!"} << none
+                                  << "";
+        QTest::newRow("an input that is not there")
+            << "gone"
+            << "n.bin" << QStringList{"The BIN file could not be read:\r\r%in"} << none << "";
+    }
+
+    void aRunEndsAsExpected() {
+        QFETCH(QString, image);
+        QFETCH(QString, output);
+        QFETCH(QStringList, boxes);
+        QFETCH(QStringList, results);
+        QFETCH(QString, rippedAs);
+        const QString input = image.isEmpty() ? QString() : in_ + "/lost ü & co.bin";
+        if (!image.isEmpty() && image != "gone")
+            QVERIFY(QFile::copy(Media(image), input));
+        const QString bin = output == "=" ? input : output.isEmpty() ? output : out_ + "/" + output;
+        const QString cue = (bin.endsWith(".bin") ? bin.chopped(4) : bin) + ".cue";
+        const Run run = go(TORVANE_APP_DIR, input, bin, {vbYes});
+
+        QVERIFY(run.ended && !dialog_->status && dialog_->cmd_rip->isEnabled());
+        QVERIFY(!dialog_->isMinimized());
+        QCOMPARE(run.results, results);
+        if (rippedAs.isEmpty()) {
+            QCOMPARE(run.boxes, boxes.replaceInStrings("%in", input));
+            QCOMPARE(EntriesOf(out_), QStringList());
+            QVERIFY(image.isEmpty() || image == "gone" ||
+                    ReadBytes(input) == ReadBytes(Media(image)));
+            return;
+        }
+        const QString report = run.boxes.value(run.boxes.size() - 1);
+        QVERIFY2(
+            report.startsWith("The process has finished successfully!\r\rThe CUE/BIN files that "
+                              "were regenerated is an \r" +
+                              boxes[0] + "\r\rThe image size is: 0 minutes, "),
+            qPrintable(report));
+        QVERIFY(report.endsWith("It should fit on a 21min/180MB (8 cm) CD-R disc."));
+        QStringList pair{QFileInfo(bin).fileName(), QFileInfo(cue).fileName()};
+        pair.sort();
+        QCOMPARE(EntriesOf(QFileInfo(bin).path()), pair);
+        // The sheet names the new BIN; the BIN rips to the disc's clips, read as a lone BIN
+        // because the tools read no sheet of 2336-byte tracks.
+        const bool s2336 = boxes[0].contains("2336");
+        QVERIFY(ReadBytes(cue).startsWith("FILE " + Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
+                                          (s2336 ? "2336" : "2352")));
+        const QString rip = FreshFolder(work_->path(), "rip");
+        QStringList args{"--output-file=" + rip + "/v.xml", "--bin-file=" + bin};
+        if (s2336)
+            args.prepend("--sector-2336");
+        QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), args, rip).exitCode, 0);
+        for (const QString& clip : QDir(Media(rippedAs)).entryList({"*.mpg"}))
+            QVERIFY2(ReadBytes(rip + "/" + clip) == ReadBytes(Media(rippedAs) + "/" + clip),
+                     qPrintable(clip));
+    }
+
+    // No at the overwrite question, or a tool missing: nothing happens.
+    void overwritingTheSourceNeedsAYes() {
+        QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
+        FakeAppFolder app;
+        app.addTool("vcddebug.exe", "");
+        app.addTool("vcdxbuild.exe", "");
+        Run run = go(app.path(), in_ + "/lost.bin", in_ + "/x.bin");
+        QCOMPARE(run.boxes,
+                 QStringList{"The tool folder has no vcdxrip.exe:\r\r" + app.toolFolder()});
+        run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
+        QCOMPARE(run.boxes, QStringList{"Are you sure you want to overwrite the \rexisting file?"});
+        QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
+        QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
+    }
+
+    void closingDuringAStageLeavesOnlyTheUsersFiles_data() {
+        QTest::addColumn<int>("stage");
+        QTest::addColumn<bool>("workFolderBefore");  // with a file of the user's in it
+        QTest::newRow("stage 1") << 1 << false;
+        QTest::newRow("stage 2") << 2 << false;
+        QTest::newRow("stage 2, a work folder of the user's") << 2 << true;
+        QTest::newRow("stage 3") << 3 << false;
+    }
+
+    void closingDuringAStageLeavesOnlyTheUsersFiles() {
+        QFETCH(int, stage);
+        QFETCH(bool, workFolderBefore);
+        // Each tool writes what the next stage needs, then the tool of `stage` holds it open.
+        FakeAppFolder app;
+        const QString pidFile = work_->filePath("tool.pid");
+        const QByteArray hold = "echo $$ > '" + QFile::encodeName(pidFile) + "'; exec sleep 300\n";
+        app.addTool("vcddebug.exe",
+                    (stage == 1 ? hold : "") + "printf 'vcd-info\\r\\nSVCD detected\\r\\n'");
+        app.addTool("vcdxrip.exe", (stage == 2 ? hold : "") +
+                                       "touch avseq01.mpg; printf 'x\\r\\n   INFO: done\\r\\n'");
+        app.addTool("vcdxbuild.exe", hold);
+        if (workFolderBefore)
+            QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
+        QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
+        start(app.path(), in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
+        const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
+        QCOMPARE(dialog_->status->row(stage).result->text(), "Working...");
+
+        QVERIFY(dialog_->close());
+        dialog_ = nullptr;
+        QCOMPARE(
+            run_.boxes,
+            QStringList{"The command is still running!  Are you\rsure that you want to quit?"});
+        QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kJobStepTimeoutMs);
+        QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
+        QCOMPARE(ReadBytes(in_ + "/lost.bin"), QByteArray("disc"));
+        QCOMPARE(EntriesOf(out_), workFolderBefore ? QStringList{"_vtools"} : QStringList());
+        if (workFolderBefore)
+            QCOMPARE(EntriesOf(out_ + "/_vtools"), QStringList{"mine.txt"});
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            QVERIFY(window->objectName() != "frm_regen_status");
+    }
 
 private:
     void start(const QString& appDir, const QString& input, const QString& output,
@@ -49,21 +201,6 @@ private:
     std::unique_ptr<frm_mainmenu> menu_;
     frm_regen* dialog_ = nullptr;
 };
-
-void RegenDialogTest::init() {
-    UseBuiltInterpreter();
-    work_ = new QTemporaryDir;
-    in_ = FreshFolder(work_->path(), "dl & co; $HOME |<x>");
-    out_ = FreshFolder(work_->path(), "new 'image' ü");
-}
-
-void RegenDialogTest::cleanup() {
-    if (dialog_)
-        dialog_->close();
-    dialog_ = nullptr;
-    menu_.reset();
-    delete work_;
-}
 
 // Opens the dialog on the tools of `appDir`, picks the two names and presses Go; `answers`
 // go to the boxes in turn, and each box is recorded in run_.
@@ -92,146 +229,6 @@ Run RegenDialogTest::go(const QString& appDir, const QString& input, const QStri
     start(appDir, input, output, answers);
     run_.ended = QTest::qWaitFor([this] { return !dialog_->job_running; }, kRunTimeoutMs);
     return run_;
-}
-
-void RegenDialogTest::aRunEndsAsExpected_data() {
-    QTest::addColumn<QString>("image");      // copied as the lone BIN; none: none picked
-    QTest::addColumn<QString>("output");     // in the output folder; "=": the input itself
-    QTest::addColumn<QStringList>("boxes");  // of a success, the report's description
-    QTest::addColumn<QStringList>("results");
-    QTest::addColumn<QString>("rippedAs");  // the reference rip of the new pair, if any
-    const QStringList success{"Success!", "Success!", "Success!"}, none{};
-    const QString svcd = "image of a SVCD disc in 23%1 byte sectors.";
-    QTest::newRow("VCD 2.0, 2352")
-        << "vcd-2352.bin"
-        << "-new disc.bin" << QStringList{"image of a VCD 2.0 disc in 2352 byte sectors."}
-        << success << "ref-vcd";
-    QTest::newRow("VCD 2.0, 2336: found on the second attempt")
-        << "vcd-2336.bin"
-        << "new.bin" << QStringList{"image of a VCD 2.0 disc in 2336 byte sectors."} << success
-        << "ref-vcd";
-    QTest::newRow("SVCD, 2352, named without .bin")
-        << "svcd-2352.bin"
-        << "plain" << QStringList{svcd.arg(52)} << success << "ref-svcd";
-    QTest::newRow("SVCD, 2336, over its own source: Yes")
-        << "svcd-2336.bin"
-        << "=" << QStringList{svcd.arg(36)} << success << "ref-svcd";
-    QTest::newRow("an MPEG clip is no disc")
-        << "clip-vcd.mpg"
-        << "x.bin" << QStringList{"The BIN file you selected isn't that of a S(VCD)!"}
-        << QStringList{"Failed!", "", ""} << "";
-    QTest::newRow("both empty: the output first")
-        << ""
-        << "" << QStringList{"You have not set an output file!"} << none << "";
-    QTest::newRow("no input") << ""
-                              << "n.bin" << QStringList{"You have not loaded an input XML file!"}
-                              << none << "";
-    QTest::newRow("an input that is not there")
-        << "gone"
-        << "n.bin" << QStringList{"The BIN file could not be read:\r\r%in"} << none << "";
-}
-
-void RegenDialogTest::aRunEndsAsExpected() {
-    QFETCH(QString, image);
-    QFETCH(QString, output);
-    QFETCH(QStringList, boxes);
-    QFETCH(QStringList, results);
-    QFETCH(QString, rippedAs);
-    const QString input = image.isEmpty() ? QString() : in_ + "/lost ü & co.bin";
-    if (!image.isEmpty() && image != "gone")
-        QVERIFY(QFile::copy(Media(image), input));
-    const QString bin = output == "=" ? input : output.isEmpty() ? output : out_ + "/" + output;
-    const QString cue = (bin.endsWith(".bin") ? bin.chopped(4) : bin) + ".cue";
-    const Run run = go(TORVANE_APP_DIR, input, bin, {vbYes});
-
-    QVERIFY(run.ended && !dialog_->status && dialog_->cmd_rip->isEnabled());
-    QVERIFY(!dialog_->isMinimized());
-    QCOMPARE(run.results, results);
-    if (rippedAs.isEmpty()) {
-        QCOMPARE(run.boxes, boxes.replaceInStrings("%in", input));
-        QCOMPARE(EntriesOf(out_), QStringList());
-        QVERIFY(image.isEmpty() || image == "gone" || ReadBytes(input) == ReadBytes(Media(image)));
-        return;
-    }
-    const QString report = run.boxes.value(run.boxes.size() - 1);
-    QVERIFY2(report.startsWith("The process has finished successfully!\r\rThe CUE/BIN files that "
-                               "were regenerated is an \r" +
-                               boxes[0] + "\r\rThe image size is: 0 minutes, "),
-             qPrintable(report));
-    QVERIFY(report.endsWith("It should fit on a 21min/180MB (8 cm) CD-R disc."));
-    QStringList pair{QFileInfo(bin).fileName(), QFileInfo(cue).fileName()};
-    pair.sort();
-    QCOMPARE(EntriesOf(QFileInfo(bin).path()), pair);
-    // The sheet names the new BIN; the BIN rips to the disc's clips, read as a lone BIN
-    // because the tools read no sheet of 2336-byte tracks.
-    const bool s2336 = boxes[0].contains("2336");
-    QVERIFY(ReadBytes(cue).startsWith("FILE " + Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
-                                      (s2336 ? "2336" : "2352")));
-    const QString rip = FreshFolder(work_->path(), "rip");
-    QStringList args{"--output-file=" + rip + "/v.xml", "--bin-file=" + bin};
-    if (s2336)
-        args.prepend("--sector-2336");
-    QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), args, rip).exitCode, 0);
-    for (const QString& clip : QDir(Media(rippedAs)).entryList({"*.mpg"}))
-        QVERIFY2(ReadBytes(rip + "/" + clip) == ReadBytes(Media(rippedAs) + "/" + clip),
-                 qPrintable(clip));
-}
-
-// No at the overwrite question, or a tool missing: nothing happens.
-void RegenDialogTest::overwritingTheSourceNeedsAYes() {
-    QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
-    FakeAppFolder app;
-    app.addTool("vcddebug.exe", "");
-    app.addTool("vcdxbuild.exe", "");
-    Run run = go(app.path(), in_ + "/lost.bin", in_ + "/x.bin");
-    QCOMPARE(run.boxes, QStringList{"The tool folder has no vcdxrip.exe:\r\r" + app.toolFolder()});
-    run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
-    QCOMPARE(run.boxes, QStringList{"Are you sure you want to overwrite the \rexisting file?"});
-    QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
-    QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
-}
-
-void RegenDialogTest::closingDuringAStageLeavesOnlyTheUsersFiles_data() {
-    QTest::addColumn<int>("stage");
-    QTest::addColumn<bool>("workFolderBefore");  // with a file of the user's in it
-    QTest::newRow("stage 1") << 1 << false;
-    QTest::newRow("stage 2") << 2 << false;
-    QTest::newRow("stage 2, a work folder of the user's") << 2 << true;
-    QTest::newRow("stage 3") << 3 << false;
-}
-
-void RegenDialogTest::closingDuringAStageLeavesOnlyTheUsersFiles() {
-    QFETCH(int, stage);
-    QFETCH(bool, workFolderBefore);
-    // Each tool writes what the next stage needs, then the tool of `stage` holds it open.
-    FakeAppFolder app;
-    const QString pidFile = work_->filePath("tool.pid");
-    const QByteArray hold = "echo $$ > '" + QFile::encodeName(pidFile) + "'; exec sleep 300\n";
-    app.addTool("vcddebug.exe",
-                (stage == 1 ? hold : "") + "printf 'vcd-info\\r\\nSVCD detected\\r\\n'");
-    app.addTool("vcdxrip.exe", (stage == 2 ? hold : "") +
-                                   "touch avseq01.mpg; printf 'x\\r\\n   INFO: done\\r\\n'");
-    app.addTool("vcdxbuild.exe", hold);
-    if (workFolderBefore)
-        QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
-    QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
-    start(app.path(), in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
-    const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
-    QCOMPARE(dialog_->status->row(stage).result->text(), "Working...");
-
-    QVERIFY(dialog_->close());
-    dialog_ = nullptr;
-    QCOMPARE(run_.boxes,
-             QStringList{"The command is still running!  Are you\rsure that you want to quit?"});
-    QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kJobStepTimeoutMs);
-    QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
-    QCOMPARE(ReadBytes(in_ + "/lost.bin"), QByteArray("disc"));
-    QCOMPARE(EntriesOf(out_), workFolderBefore ? QStringList{"_vtools"} : QStringList());
-    if (workFolderBefore)
-        QCOMPARE(EntriesOf(out_ + "/_vtools"), QStringList{"mine.txt"});
-    for (const QWidget* window : QApplication::topLevelWidgets())
-        QVERIFY(window->objectName() != "frm_regen_status");
 }
 
 QTEST_MAIN(RegenDialogTest)

@@ -42,167 +42,163 @@ QStringList SequenceSources(const QByteArray& xml) {
 class BuildToolsTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void vcdxbuildMakesTheImage_data();
-    void vcdxbuildMakesTheImage();
-    void listToolsTakeTheListedFiles_data();
-    void listToolsTakeTheListedFiles();
+    void initTestCase() {
+        QVERIFY(work_.isValid());
+        in_ = FreshFolder(work_.path(), QStringLiteral("proj ü & co; $x"));
+        toolFolder_ = FreshFolder(work_.path(), QStringLiteral("app dir/VCDImager"));
+        for (const QString name : {"vcdxgen.exe", "vcdimager.exe"})
+            QVERIFY(QFile::copy(AppTool(name), toolFolder_ + "/" + name));
+        // The folder's name and the clip's together hold "</log>" in the middle of the path.
+        QVERIFY(QDir().mkpath(in("a & <b> &amp; c<")));
+        for (const QString name : {"clip one.mpg", "a & <b> &amp; c</log>.mpg"})
+            QVERIFY(QFile::copy(Media("clip-vcd.mpg"), in(name)));
+        QVERIFY(QFile::copy(Media("clip-svcd.mpg"), in("Süper (svcd).mpg")));
+        QCOMPARE(RunProgram("/usr/bin/vcdxgen",
+                            {"--type=vcd2", "--output-file=vcd.xml", "clip one.mpg",
+                             in("a & <b> &amp; c</log>.mpg")},
+                            in_)
+                     .exitCode,
+                 0);
+        QCOMPARE(RunProgram("/usr/bin/vcdxgen",
+                            {"--type=svcd", "--output-file=svcd.xml", "Süper (svcd).mpg"}, in_)
+                     .exitCode,
+                 0);
+    }
+
+    void vcdxbuildMakesTheImage_data() {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<QByteArray>("switches");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("base");  // the output name less ".bin", ".cue" or ".toc"
+        QTest::newRow("CUE/BIN") << "vcd.xml" << QByteArray(" -v ") << "img out é"
+                                 << "movie";
+        QTest::newRow("CUE/BIN of 2336-byte sectors, shell characters")
+            << "svcd.xml" << QByteArray("--sector-2336 -v ") << "img $HOME; & <x> |y"
+            << "-movie (1)";
+        QTest::newRow("CDRDAO/TOC of 2336-byte sectors")
+            << "svcd.xml" << QByteArray("--sector-2336 -v --image-type=cdrdao") << "toc 2336"
+            << "m";
+        QTest::newRow("a missing project: a failed log, no image")
+            << "no such & <project>.xml" << QByteArray(" -v ") << "missing"
+            << "x";
+    }
+
+    void vcdxbuildMakesTheImage() {
+        QFETCH(QString, project);
+        QFETCH(QByteArray, switches);
+        QFETCH(QString, folder);
+        QFETCH(QString, base);
+        const QString out = FreshFolder(work_.path(), folder), stem = out + "/" + base;
+        const bool toc = switches.contains("cdrdao");
+        const QByteArray files = toc ? " --cdrdao-file=" + Quoted(stem)
+                                     : "--image-type=bincue --cue-file=" + Quoted(stem + ".cue") +
+                                           " --bin-file=" + Quoted(stem + ".bin");
+        const ToolRun run =
+            RunScriptLine(Quoted(AppTool("vcdxbuild.exe ")) + " " + switches + " " + files + "  " +
+                              Quoted(in(project)) + " > " + Quoted(out + "/log.txt"),
+                          in_);
+        QVERIFY(run.finished);
+        const QByteArray log = ReadBytes(out + "/log.txt"), last = LastLine(log);
+        QStringList made = QDir(out).entryList(QDir::Files);
+        if (!QFile::exists(in(project))) {
+            QVERIFY(!LogSucceeded(log, "   INFO: finished ok"));
+            QVERIFY2(
+                log.contains("++ WARN: error while parsing file `" + in(project).toUtf8() + "'"),
+                log.constData());
+            QVERIFY2(run.errors.contains("vcdxbuild.exe: vcdxbuild ended with status"),
+                     run.errors.constData());
+            QCOMPARE(made, QStringList{"log.txt"});
+            return;
+        }
+        QVERIFY2(LogSucceeded(log, "   INFO: finished ok"), last.constData());
+        QVERIFY2(!log.contains("<log ") && !log.contains("#write"), log.right(300).constData());
+        const int sectors =
+            Captured(QRegularExpression("created with (\\d+) sectors \\[\\d\\d:\\d\\d:"
+                                        "\\d\\d\\]$"),
+                     last);
+        QVERIFY2(sectors > 0, last.constData());
+        QCOMPARE(Sectors(SizeAtLineEnd(last)), sectors);
+        // The progress stays on the console, and ends at the size.
+        QVERIFY2(QRegularExpression("#write: (\\d+)/\\1 \\(100%\\)")
+                     .match(QString::fromUtf8(run.errors))
+                     .hasMatch(),
+                 run.errors.right(300).constData());
+        qint64 imageBytes = 0;
+        for (const QFileInfo& file : QDir(out).entryInfoList({"*.bin", "*.img"}, QDir::Files))
+            imageBytes += file.size();
+        QCOMPARE(imageBytes, qint64(sectors) * (switches.contains("2336") ? 2336 : 2352));
+        made.removeIf([](const QString& name) { return name.endsWith(".img"); });
+        QStringList expected{"log.txt"};
+        expected << (toc ? QStringList{base + ".toc"} : QStringList{base + ".bin", base + ".cue"});
+        expected.sort();
+        QCOMPARE(made, expected);
+        if (project == QLatin1String("vcd.xml")) {
+            QVERIFY2(log.contains("\r\n--DEBUG: adding sequence #0, " +
+                                  in("a & <b> &amp; c</log>.mpg").toUtf8() + "\r\n"),
+                     log.constData());
+        }
+    }
+
+    // The list as the VCDXGEN and VCDIMAGER dialogs write it into the tool folder, where the
+    // job runs: one double-quoted path a line, CR LF between lines, none after the last.
+    void listToolsTakeTheListedFiles_data() {
+        QTest::addColumn<QByteArray>("line");  // less the list and the log
+        QTest::addColumn<QStringList>("listed");
+        QTest::addColumn<QStringList>("described");  // by vcdxgen; none: vcdimager's image
+        QTest::addColumn<int>("sectorSize");
+        const QString one = in("clip one.mpg"), two = in("a & <b> &amp; c</log>.mpg");
+        const QByteArray gen =
+            "vcdxgen.exe  -v  --type=vcd2 -l VIDEOCD --info-album-id=MYVCD "
+            "--volume-count=1 --volume-number=1 --output-file=" +
+            Quoted(work_.filePath("video cd é.xml"));
+        const QByteArray image =
+            " -l VIDEOCD --info-album-id=MYVCD --volume-count=1 "
+            "--volume-number=1 --cue-file=" +
+            Quoted(work_.filePath("my movie ü.cue")) +
+            " --bin-file=" + Quoted(work_.filePath("my movie ü.bin"));
+        QTest::newRow("vcdxgen: three files, in list order")
+            << gen << QStringList{two, one, two} << QStringList{two, one, two} << 0;
+        QTest::newRow("vcdimager: VCD 2.0, two files")
+            << "vcdimager.exe  -v  --type=vcd2" + image << QStringList{one, two} << QStringList()
+            << 2352;
+        QTest::newRow("vcdimager: SVCD, 2336-byte sectors, scan offsets")
+            << "vcdimager.exe --sector-2336 --update-scan-offsets -v  --type=svcd" + image
+            << QStringList{in("Süper (svcd).mpg")} << QStringList() << 2336;
+    }
+
+    void listToolsTakeTheListedFiles() {
+        QFETCH(QByteArray, line);
+        QFETCH(QStringList, listed);
+        QFETCH(QStringList, described);
+        QFETCH(int, sectorSize);
+        QByteArrayList list;
+        for (const QString& path : listed)
+            list << Quoted(path);
+        QVERIFY(WriteBytes(toolFolder_ + "/list.txt", list.join("\r\n")));
+        const QString log = work_.filePath("log.txt");
+        QVERIFY(RunScriptLine(line + " @list.txt > " + Quoted(log), toolFolder_).finished);
+        const QByteArray text = ReadBytes(log), last = LastLine(text);
+        if (!sectorSize) {
+            QVERIFY2(text.startsWith("(Super) VideoCD xml description created successfully") &&
+                         text.endsWith("\r\n"),
+                     text.constData());
+            QCOMPARE(SequenceSources(ReadBytes(work_.filePath("video cd é.xml"))), described);
+            return;
+        }
+        QVERIFY2(LogSucceeded(text, "finished ok"), text.constData());
+        const int sectors = Captured(
+            QRegularExpression("^finished ok, image created with (\\d+) sectors \\[\\d\\d:"), last);
+        QVERIFY2(sectors > 0, last.constData());
+        QCOMPARE(Sectors(SizeAtFirstBracket(last)), sectors);
+        QCOMPARE(QFileInfo(work_.filePath("my movie ü.bin")).size(), qint64(sectors) * sectorSize);
+        QCOMPARE(ReadBytes(work_.filePath("my movie ü.cue")).count("  TRACK "), listed.size() + 1);
+    }
 
 private:
     QString in(const QString& name) const { return in_ + "/" + name; }
     QTemporaryDir work_;
     QString in_, toolFolder_;
 };
-
-void BuildToolsTest::initTestCase() {
-    QVERIFY(work_.isValid());
-    in_ = FreshFolder(work_.path(), QStringLiteral("proj ü & co; $x"));
-    toolFolder_ = FreshFolder(work_.path(), QStringLiteral("app dir/VCDImager"));
-    for (const QString name : {"vcdxgen.exe", "vcdimager.exe"})
-        QVERIFY(QFile::copy(AppTool(name), toolFolder_ + "/" + name));
-    // The folder's name and the clip's together hold "</log>" in the middle of the path.
-    QVERIFY(QDir().mkpath(in("a & <b> &amp; c<")));
-    for (const QString name : {"clip one.mpg", "a & <b> &amp; c</log>.mpg"})
-        QVERIFY(QFile::copy(Media("clip-vcd.mpg"), in(name)));
-    QVERIFY(QFile::copy(Media("clip-svcd.mpg"), in("Süper (svcd).mpg")));
-    QCOMPARE(RunProgram("/usr/bin/vcdxgen",
-                        {"--type=vcd2", "--output-file=vcd.xml", "clip one.mpg",
-                         in("a & <b> &amp; c</log>.mpg")},
-                        in_)
-                 .exitCode,
-             0);
-    QCOMPARE(RunProgram("/usr/bin/vcdxgen",
-                        {"--type=svcd", "--output-file=svcd.xml", "Süper (svcd).mpg"}, in_)
-                 .exitCode,
-             0);
-}
-
-void BuildToolsTest::vcdxbuildMakesTheImage_data() {
-    QTest::addColumn<QString>("project");
-    QTest::addColumn<QByteArray>("switches");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("base");  // the output name less ".bin", ".cue" or ".toc"
-    QTest::newRow("CUE/BIN") << "vcd.xml" << QByteArray(" -v ") << "img out é"
-                             << "movie";
-    QTest::newRow("CUE/BIN of 2336-byte sectors, shell characters")
-        << "svcd.xml" << QByteArray("--sector-2336 -v ") << "img $HOME; & <x> |y"
-        << "-movie (1)";
-    QTest::newRow("CDRDAO/TOC of 2336-byte sectors")
-        << "svcd.xml" << QByteArray("--sector-2336 -v --image-type=cdrdao") << "toc 2336"
-        << "m";
-    QTest::newRow("a missing project: a failed log, no image")
-        << "no such & <project>.xml" << QByteArray(" -v ") << "missing"
-        << "x";
-}
-
-void BuildToolsTest::vcdxbuildMakesTheImage() {
-    QFETCH(QString, project);
-    QFETCH(QByteArray, switches);
-    QFETCH(QString, folder);
-    QFETCH(QString, base);
-    const QString out = FreshFolder(work_.path(), folder), stem = out + "/" + base;
-    const bool toc = switches.contains("cdrdao");
-    const QByteArray files = toc ? " --cdrdao-file=" + Quoted(stem)
-                                 : "--image-type=bincue --cue-file=" + Quoted(stem + ".cue") +
-                                       " --bin-file=" + Quoted(stem + ".bin");
-    const ToolRun run =
-        RunScriptLine(Quoted(AppTool("vcdxbuild.exe ")) + " " + switches + " " + files + "  " +
-                          Quoted(in(project)) + " > " + Quoted(out + "/log.txt"),
-                      in_);
-    QVERIFY(run.finished);
-    const QByteArray log = ReadBytes(out + "/log.txt"), last = LastLine(log);
-    QStringList made = QDir(out).entryList(QDir::Files);
-    if (!QFile::exists(in(project))) {
-        QVERIFY(!LogSucceeded(log, "   INFO: finished ok"));
-        QVERIFY2(log.contains("++ WARN: error while parsing file `" + in(project).toUtf8() + "'"),
-                 log.constData());
-        QVERIFY2(run.errors.contains("vcdxbuild.exe: vcdxbuild ended with status"),
-                 run.errors.constData());
-        QCOMPARE(made, QStringList{"log.txt"});
-        return;
-    }
-    QVERIFY2(LogSucceeded(log, "   INFO: finished ok"), last.constData());
-    QVERIFY2(!log.contains("<log ") && !log.contains("#write"), log.right(300).constData());
-    const int sectors = Captured(QRegularExpression("created with (\\d+) sectors \\[\\d\\d:\\d\\d:"
-                                                    "\\d\\d\\]$"),
-                                 last);
-    QVERIFY2(sectors > 0, last.constData());
-    QCOMPARE(Sectors(SizeAtLineEnd(last)), sectors);
-    // The progress stays on the console, and ends at the size.
-    QVERIFY2(QRegularExpression("#write: (\\d+)/\\1 \\(100%\\)")
-                 .match(QString::fromUtf8(run.errors))
-                 .hasMatch(),
-             run.errors.right(300).constData());
-    qint64 imageBytes = 0;
-    for (const QFileInfo& file : QDir(out).entryInfoList({"*.bin", "*.img"}, QDir::Files))
-        imageBytes += file.size();
-    QCOMPARE(imageBytes, qint64(sectors) * (switches.contains("2336") ? 2336 : 2352));
-    made.removeIf([](const QString& name) { return name.endsWith(".img"); });
-    QStringList expected{"log.txt"};
-    expected << (toc ? QStringList{base + ".toc"} : QStringList{base + ".bin", base + ".cue"});
-    expected.sort();
-    QCOMPARE(made, expected);
-    if (project == QLatin1String("vcd.xml")) {
-        QVERIFY2(log.contains("\r\n--DEBUG: adding sequence #0, " +
-                              in("a & <b> &amp; c</log>.mpg").toUtf8() + "\r\n"),
-                 log.constData());
-    }
-}
-
-// The list as the VCDXGEN and VCDIMAGER dialogs write it into the tool folder, where the
-// job runs: one double-quoted path a line, CR LF between lines, none after the last.
-void BuildToolsTest::listToolsTakeTheListedFiles_data() {
-    QTest::addColumn<QByteArray>("line");  // less the list and the log
-    QTest::addColumn<QStringList>("listed");
-    QTest::addColumn<QStringList>("described");  // by vcdxgen; none: vcdimager's image
-    QTest::addColumn<int>("sectorSize");
-    const QString one = in("clip one.mpg"), two = in("a & <b> &amp; c</log>.mpg");
-    const QByteArray gen =
-        "vcdxgen.exe  -v  --type=vcd2 -l VIDEOCD --info-album-id=MYVCD "
-        "--volume-count=1 --volume-number=1 --output-file=" +
-        Quoted(work_.filePath("video cd é.xml"));
-    const QByteArray image =
-        " -l VIDEOCD --info-album-id=MYVCD --volume-count=1 "
-        "--volume-number=1 --cue-file=" +
-        Quoted(work_.filePath("my movie ü.cue")) +
-        " --bin-file=" + Quoted(work_.filePath("my movie ü.bin"));
-    QTest::newRow("vcdxgen: three files, in list order")
-        << gen << QStringList{two, one, two} << QStringList{two, one, two} << 0;
-    QTest::newRow("vcdimager: VCD 2.0, two files")
-        << "vcdimager.exe  -v  --type=vcd2" + image << QStringList{one, two} << QStringList()
-        << 2352;
-    QTest::newRow("vcdimager: SVCD, 2336-byte sectors, scan offsets")
-        << "vcdimager.exe --sector-2336 --update-scan-offsets -v  --type=svcd" + image
-        << QStringList{in("Süper (svcd).mpg")} << QStringList() << 2336;
-}
-
-void BuildToolsTest::listToolsTakeTheListedFiles() {
-    QFETCH(QByteArray, line);
-    QFETCH(QStringList, listed);
-    QFETCH(QStringList, described);
-    QFETCH(int, sectorSize);
-    QByteArrayList list;
-    for (const QString& path : listed)
-        list << Quoted(path);
-    QVERIFY(WriteBytes(toolFolder_ + "/list.txt", list.join("\r\n")));
-    const QString log = work_.filePath("log.txt");
-    QVERIFY(RunScriptLine(line + " @list.txt > " + Quoted(log), toolFolder_).finished);
-    const QByteArray text = ReadBytes(log), last = LastLine(text);
-    if (!sectorSize) {
-        QVERIFY2(text.startsWith("(Super) VideoCD xml description created successfully") &&
-                     text.endsWith("\r\n"),
-                 text.constData());
-        QCOMPARE(SequenceSources(ReadBytes(work_.filePath("video cd é.xml"))), described);
-        return;
-    }
-    QVERIFY2(LogSucceeded(text, "finished ok"), text.constData());
-    const int sectors = Captured(
-        QRegularExpression("^finished ok, image created with (\\d+) sectors \\[\\d\\d:"), last);
-    QVERIFY2(sectors > 0, last.constData());
-    QCOMPARE(Sectors(SizeAtFirstBracket(last)), sectors);
-    QCOMPARE(QFileInfo(work_.filePath("my movie ü.bin")).size(), qint64(sectors) * sectorSize);
-    QCOMPARE(ReadBytes(work_.filePath("my movie ü.cue")).count("  TRACK "), listed.size() + 1);
-}
 
 QTEST_GUILESS_MAIN(BuildToolsTest)
 #include "build_test.moc"

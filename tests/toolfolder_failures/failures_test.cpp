@@ -55,157 +55,151 @@ bool DialogSeesSuccess(const QString& adapter, const QByteArray& log) {
 class AdapterFailuresTest : public QObject {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
-    void aToolThatIsMissingOrFailsIsReported_data();
-    void aToolThatIsMissingOrFailsIsReported();
-    void aToolEndsWithItsAdapter_data();
-    void aToolEndsWithItsAdapter();
-    void theToolsEndIsSeenWhateverItLeavesBehind();
+    void init() {
+        QDir(kTools).removeRecursively();
+        QVERIFY(QDir().mkpath(kTools));
+        job_ = new QTemporaryDir;
+        const QString dir = job_->path();
+        tmp_ = FreshFolder(dir, "tmp");
+        QVERIFY(WriteBytes(dir + "/list.txt", Quoted(dir + "/clip.mpg")) &&
+                WriteBytes(dir + "/videocd.xml", "<videocd/>") &&
+                WriteBytes(dir + "/AVSEQ01.DAT", "RIFF") && WriteBytes(dir + "/clip.mpg", "") &&
+                WriteBytes(dir + "/-disc & é.bin", QByteArray(146 * 2352, '\0')));
+        inputs_ = EntriesOf(dir) << "log.txt";
+        inputs_.sort();
+    }
+
+    void cleanup() {
+        QCOMPARE(EntriesOf(tmp_), QStringList());
+        delete job_;
+    }
+
+    void aToolThatIsMissingOrFailsIsReported_data() {
+        QTest::addColumn<QString>("adapter");
+        QTest::addColumn<QByteArray>("tool");   // what the tool runs; none: it is missing
+        QTest::addColumn<QStringList>("args");  // none: the job line's
+        QTest::addColumn<int>("exitCode");      // -1: ended by the tool's signal
+        QTest::addColumn<QByteArray>("message");
+        for (const QString adapter :
+             {"vcdxbuild", "vcdxgen", "vcdimager", "vcdxminfo", "cdxa2mpeg", "vcdxrip", "vcddebug"})
+            QTest::addRow("%s missing", qPrintable(adapter))
+                << adapter << QByteArray() << QStringList() << 1
+                << QFile::encodeName(adapter + ".exe: cannot run " + kTools + ToolOf(adapter) +
+                                     " (No such file or directory)");
+        const QByteArray finished = "finished ok, image created with 10 sectors [00:00:10]";
+        QTest::newRow("vcdxbuild says finished, then fails")
+            << "vcdxbuild"
+            << "echo '<log level=\"information\">scanning</log>'\n"
+               "echo '<log level=\"information\">" +
+                   finished + "</log>'\nexit 2"
+            << QStringList() << 2 << QByteArray("vcdxbuild.exe: vcdxbuild ended with status 2");
+        QTest::newRow("vcdimager says finished, then crashes")
+            << "vcdimager"
+            << "echo '" + finished + "'\necho '" + finished + "'\nkill -SEGV $$" << QStringList()
+            << 1 << QByteArray("vcdimager.exe: vcdimager was ended by signal 11");
+        QTest::newRow("cdxa2mpeg crashes: so does its adapter")
+            << "cdxa2mpeg" << QByteArray("kill -SEGV $$") << QStringList() << -1 << QByteArray();
+        const QByteArray fails = "echo '   INFO: reading'\nexit 3";
+        QTest::newRow("vcdxrip fails")
+            << "vcdxrip" << fails << QStringList() << 1
+            << QFile::encodeName("vcdxrip.exe: " + kTools + "vcdxrip ended with status 3");
+        QTest::newRow("vcd-info fails")
+            << "vcddebug" << fails << QStringList() << 1
+            << QFile::encodeName("vcddebug.exe: " + kTools + "vcd-info ended with status 3");
+        QTest::newRow("an unreadable list runs no tool")
+            << "vcdxgen" << QByteArray("echo ran > ran") << QStringList{"-v", "@no such list.txt"}
+            << 1
+            << QByteArray(
+                   "vcdxgen.exe: cannot read the list file \"no such list.txt\": No such "
+                   "file or directory");
+    }
+
+    void aToolThatIsMissingOrFailsIsReported() {
+        QFETCH(QString, adapter);
+        QFETCH(QByteArray, tool);
+        QFETCH(QStringList, args);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, message);
+        if (!tool.isNull())
+            QVERIFY(WriteScript(kTools + ToolOf(adapter), tool));
+        const ToolRun result = run(adapter, args);
+        QVERIFY(result.finished);
+        QCOMPARE(result.crashed, exitCode < 0);
+        if (exitCode >= 0)
+            QCOMPARE(result.exitCode, exitCode);
+        QVERIFY2(result.errors.contains(message), result.errors.constData());
+        const QByteArray log = ReadBytes(job_->filePath("log.txt"));
+        QVERIFY2(!DialogSeesSuccess(adapter, log), log.constData());
+        if (tool.startsWith("echo '   INFO"))
+            QVERIFY(log.startsWith("   INFO: reading\r\n"));
+        QCOMPARE(EntriesOf(job_->path()), inputs_);
+    }
+
+    void aToolEndsWithItsAdapter_data() {
+        QTest::addColumn<QString>("adapter");
+        QTest::addColumn<int>("signal");
+        QTest::newRow("vcdxbuild.exe killed") << "vcdxbuild" << int(SIGKILL);
+        QTest::newRow("vcdxrip.exe, console hung up") << "vcdxrip" << int(SIGHUP);
+        QTest::newRow("vcddebug.exe on 2336-byte sectors, console hung up")
+            << "vcddebug" << int(SIGHUP);
+    }
+
+    void aToolEndsWithItsAdapter() {
+        QFETCH(QString, adapter);
+        QFETCH(int, signal);
+        const QString pidFile = kTools + "pid";
+        QVERIFY(WriteScript(kTools + ToolOf(adapter),
+                            "echo $$ > '" + QFile::encodeName(pidFile) + ".new'\nmv '" +
+                                QFile::encodeName(pidFile) + ".new' '" +
+                                QFile::encodeName(pidFile) + "'\nexec sleep 300"));
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("TMPDIR", tmp_);
+        process.setProcessEnvironment(env);
+        process.setWorkingDirectory(job_->path());
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.start(FAKE_APP_DIR + adapter + ".exe", JobArguments(adapter, job_->path()));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kEventTimeoutMs);
+        const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
+        const auto reap = qScopeGuard([tool] {
+            if (!ProcessGone(tool))
+                ::kill(pid_t(tool), SIGKILL);
+        });
+        ::kill(pid_t(process.processId()), signal);
+        QVERIFY(process.waitForFinished(kEventTimeoutMs));
+        QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+        QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kEventTimeoutMs);
+    }
+
+    // The tool leaves a process behind that holds its output open for minutes, and the adapter
+    // starts with child signals ignored: neither hides the tool's end and status from it.
+    void theToolsEndIsSeenWhateverItLeavesBehind() {
+        QVERIFY(WriteScript(kTools + "vcdxbuild", R"(sleep 300 &
+    echo $! > "$0.pid"
+    echo '<log level="information">finished ok, image created with 10 sectors [00:00:10]</log>'
+    exit 4)"));
+        const QStringList args{"-c", "trap '' CHLD; exec \"$0\" \"$@\"",
+                               FAKE_APP_DIR "vcdxbuild.exe"};
+        const ToolRun result =
+            RunProgram("/bin/bash", args + JobArguments("vcdxbuild", job_->path()), job_->path(),
+                       job_->filePath("log.txt"), tmp_);
+        ::kill(pid_t(ReadBytes(kTools + "vcdxbuild.pid").trimmed().toLongLong()), SIGKILL);
+        QVERIFY(result.finished);
+        QCOMPARE(result.exitCode, 4);
+        QVERIFY(ReadBytes(job_->filePath("log.txt")).startsWith("   INFO: finished ok"));
+    }
 
 private:
-    ToolRun run(const QString& adapter, const QStringList& args = {});
+    ToolRun run(const QString& adapter, const QStringList& args) {
+        return RunProgram(FAKE_APP_DIR + adapter + ".exe",
+                          args.isEmpty() ? JobArguments(adapter, job_->path()) : args, job_->path(),
+                          job_->filePath("log.txt"), tmp_);
+    }
+
     QTemporaryDir* job_ = nullptr;
     QString tmp_;
     QStringList inputs_;
 };
-
-void AdapterFailuresTest::init() {
-    QDir(kTools).removeRecursively();
-    QVERIFY(QDir().mkpath(kTools));
-    job_ = new QTemporaryDir;
-    const QString dir = job_->path();
-    tmp_ = FreshFolder(dir, "tmp");
-    QVERIFY(WriteBytes(dir + "/list.txt", Quoted(dir + "/clip.mpg")) &&
-            WriteBytes(dir + "/videocd.xml", "<videocd/>") &&
-            WriteBytes(dir + "/AVSEQ01.DAT", "RIFF") && WriteBytes(dir + "/clip.mpg", "") &&
-            WriteBytes(dir + "/-disc & é.bin", QByteArray(146 * 2352, '\0')));
-    inputs_ = EntriesOf(dir) << "log.txt";
-    inputs_.sort();
-}
-
-void AdapterFailuresTest::cleanup() {
-    QCOMPARE(EntriesOf(tmp_), QStringList());
-    delete job_;
-}
-
-ToolRun AdapterFailuresTest::run(const QString& adapter, const QStringList& args) {
-    return RunProgram(FAKE_APP_DIR + adapter + ".exe",
-                      args.isEmpty() ? JobArguments(adapter, job_->path()) : args, job_->path(),
-                      job_->filePath("log.txt"), tmp_);
-}
-
-void AdapterFailuresTest::aToolThatIsMissingOrFailsIsReported_data() {
-    QTest::addColumn<QString>("adapter");
-    QTest::addColumn<QByteArray>("tool");   // what the tool runs; none: it is missing
-    QTest::addColumn<QStringList>("args");  // none: the job line's
-    QTest::addColumn<int>("exitCode");      // -1: ended by the tool's signal
-    QTest::addColumn<QByteArray>("message");
-    for (const QString adapter :
-         {"vcdxbuild", "vcdxgen", "vcdimager", "vcdxminfo", "cdxa2mpeg", "vcdxrip", "vcddebug"})
-        QTest::addRow("%s missing", qPrintable(adapter))
-            << adapter << QByteArray() << QStringList() << 1
-            << QFile::encodeName(adapter + ".exe: cannot run " + kTools + ToolOf(adapter) +
-                                 " (No such file or directory)");
-    const QByteArray finished = "finished ok, image created with 10 sectors [00:00:10]";
-    QTest::newRow("vcdxbuild says finished, then fails")
-        << "vcdxbuild"
-        << "echo '<log level=\"information\">scanning</log>'\n"
-           "echo '<log level=\"information\">" +
-               finished + "</log>'\nexit 2"
-        << QStringList() << 2 << QByteArray("vcdxbuild.exe: vcdxbuild ended with status 2");
-    QTest::newRow("vcdimager says finished, then crashes")
-        << "vcdimager"
-        << "echo '" + finished + "'\necho '" + finished + "'\nkill -SEGV $$" << QStringList() << 1
-        << QByteArray("vcdimager.exe: vcdimager was ended by signal 11");
-    QTest::newRow("cdxa2mpeg crashes: so does its adapter")
-        << "cdxa2mpeg" << QByteArray("kill -SEGV $$") << QStringList() << -1 << QByteArray();
-    const QByteArray fails = "echo '   INFO: reading'\nexit 3";
-    QTest::newRow("vcdxrip fails")
-        << "vcdxrip" << fails << QStringList() << 1
-        << QFile::encodeName("vcdxrip.exe: " + kTools + "vcdxrip ended with status 3");
-    QTest::newRow("vcd-info fails")
-        << "vcddebug" << fails << QStringList() << 1
-        << QFile::encodeName("vcddebug.exe: " + kTools + "vcd-info ended with status 3");
-    QTest::newRow("an unreadable list runs no tool")
-        << "vcdxgen" << QByteArray("echo ran > ran") << QStringList{"-v", "@no such list.txt"} << 1
-        << QByteArray(
-               "vcdxgen.exe: cannot read the list file \"no such list.txt\": No such "
-               "file or directory");
-}
-
-void AdapterFailuresTest::aToolThatIsMissingOrFailsIsReported() {
-    QFETCH(QString, adapter);
-    QFETCH(QByteArray, tool);
-    QFETCH(QStringList, args);
-    QFETCH(int, exitCode);
-    QFETCH(QByteArray, message);
-    if (!tool.isNull())
-        QVERIFY(WriteScript(kTools + ToolOf(adapter), tool));
-    const ToolRun result = run(adapter, args);
-    QVERIFY(result.finished);
-    QCOMPARE(result.crashed, exitCode < 0);
-    if (exitCode >= 0)
-        QCOMPARE(result.exitCode, exitCode);
-    QVERIFY2(result.errors.contains(message), result.errors.constData());
-    const QByteArray log = ReadBytes(job_->filePath("log.txt"));
-    QVERIFY2(!DialogSeesSuccess(adapter, log), log.constData());
-    if (tool.startsWith("echo '   INFO"))
-        QVERIFY(log.startsWith("   INFO: reading\r\n"));
-    QCOMPARE(EntriesOf(job_->path()), inputs_);
-}
-
-void AdapterFailuresTest::aToolEndsWithItsAdapter_data() {
-    QTest::addColumn<QString>("adapter");
-    QTest::addColumn<int>("signal");
-    QTest::newRow("vcdxbuild.exe killed") << "vcdxbuild" << int(SIGKILL);
-    QTest::newRow("vcdxrip.exe, console hung up") << "vcdxrip" << int(SIGHUP);
-    QTest::newRow("vcddebug.exe on 2336-byte sectors, console hung up")
-        << "vcddebug" << int(SIGHUP);
-}
-
-void AdapterFailuresTest::aToolEndsWithItsAdapter() {
-    QFETCH(QString, adapter);
-    QFETCH(int, signal);
-    const QString pidFile = kTools + "pid";
-    QVERIFY(WriteScript(kTools + ToolOf(adapter), "echo $$ > '" + QFile::encodeName(pidFile) +
-                                                      ".new'\nmv '" + QFile::encodeName(pidFile) +
-                                                      ".new' '" + QFile::encodeName(pidFile) +
-                                                      "'\nexec sleep 300"));
-    QProcess process;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("TMPDIR", tmp_);
-    process.setProcessEnvironment(env);
-    process.setWorkingDirectory(job_->path());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(FAKE_APP_DIR + adapter + ".exe", JobArguments(adapter, job_->path()));
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kEventTimeoutMs);
-    const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
-    const auto reap = qScopeGuard([tool] {
-        if (!ProcessGone(tool))
-            ::kill(pid_t(tool), SIGKILL);
-    });
-    ::kill(pid_t(process.processId()), signal);
-    QVERIFY(process.waitForFinished(kEventTimeoutMs));
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
-    QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(tool), kEventTimeoutMs);
-}
-
-// The tool leaves a process behind that holds its output open for minutes, and the adapter
-// starts with child signals ignored: neither hides the tool's end and status from it.
-void AdapterFailuresTest::theToolsEndIsSeenWhateverItLeavesBehind() {
-    QVERIFY(WriteScript(kTools + "vcdxbuild", R"(sleep 300 &
-echo $! > "$0.pid"
-echo '<log level="information">finished ok, image created with 10 sectors [00:00:10]</log>'
-exit 4)"));
-    const QStringList args{"-c", "trap '' CHLD; exec \"$0\" \"$@\"", FAKE_APP_DIR "vcdxbuild.exe"};
-    const ToolRun result = RunProgram("/bin/bash", args + JobArguments("vcdxbuild", job_->path()),
-                                      job_->path(), job_->filePath("log.txt"), tmp_);
-    ::kill(pid_t(ReadBytes(kTools + "vcdxbuild.pid").trimmed().toLongLong()), SIGKILL);
-    QVERIFY(result.finished);
-    QCOMPARE(result.exitCode, 4);
-    QVERIFY(ReadBytes(job_->filePath("log.txt")).startsWith("   INFO: finished ok"));
-}
 
 QTEST_GUILESS_MAIN(AdapterFailuresTest)
 #include "failures_test.moc"

@@ -46,166 +46,158 @@ QByteArray RealReport(const QString& cueSheet, const QStringList& switches) {
 class ReadTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void vcddebugReportsTheDisc_data();
-    void vcddebugReportsTheDisc();
-    void vcdxripGivesTheDiscsFiles_data();
-    void vcdxripGivesTheDiscsFiles();
-    void whatCannotBeReadFailsTheJob_data();
-    void whatCannotBeReadFailsTheJob();
+    void initTestCase() {
+        QVERIFY(QFile::exists(kVcddebug) && QFile::exists(kVcdxrip));
+        QVERIFY(scratch_.isValid());
+    }
+
+    void init() {
+        imageFolder_ = FreshFolder(scratch_.path(), QStringLiteral("dl & co; $HOME |<x>/Ünïcødé"));
+        outputFolder_ = FreshFolder(scratch_.path(), QStringLiteral("out $dir; & <x>/_vtools"));
+        tmp_ = FreshFolder(scratch_.path(), QStringLiteral("tmp"));
+        imageName_ = QStringLiteral("-lost disc=1 ü.bin");
+    }
+
+    void cleanup() {
+        QCOMPARE(EntriesOf(imageFolder_), QStringList{imageName_});
+        QCOMPARE(EntriesOf(tmp_), QStringList());
+    }
+
+    void vcddebugReportsTheDisc_data() {
+        QTest::addColumn<QString>("image");
+        QTest::addColumn<QStringList>("switches");
+        QTest::newRow("VCD, 2352, verbose") << "vcd-2352.bin" << QStringList{"-v"};
+        QTest::newRow("VCD, 2336") << "vcd-2336.bin" << QStringList{kS2336, "-v"};
+        QTest::newRow("SVCD, 2336, quiet") << "svcd-2336.bin" << QStringList{kS2336, "-q"};
+    }
+
+    void vcddebugReportsTheDisc() {
+        QFETCH(QString, image);
+        QFETCH(QStringList, switches);
+        const ToolRun result = run(kVcddebug, image, switches);
+        QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
+        QCOMPARE(result.out.count('\n'), result.out.count("\r\n"));
+        QVERIFY(!result.out.contains(kWarning));
+        // The whole structure, tracks included, as the real tool reports it from the 2352-byte
+        // image with its cue sheet; the "Source:" line names the user's file.
+        const QString cue = Media(image.section('-', 0, 0) + "-2352.cue");
+        const QByteArray real = RealReport(cue, switches);
+        QVERIFY(real.contains("CD-ROM TRACKS (1 - 2)"));
+        QCOMPARE(Comparable(result.out), Comparable(real));
+        QVERIFY(result.out.contains("Source: image file `" + QFile::encodeName(imageFolder_) + "/" +
+                                    QFile::encodeName(imageName_) + "'"));
+    }
+
+    void vcdxripGivesTheDiscsFiles_data() {
+        QTest::addColumn<QString>("image");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("mediaOf");  // the disc whose reference rip is expected, or none
+        QTest::newRow("VCD, BIN of 2352") << "vcd-2352.bin" << QStringList() << "vcd";
+        QTest::newRow("VCD, BIN of 2336") << "vcd-2336.bin" << QStringList{kS2336} << "vcd";
+        QTest::newRow("SVCD, BIN of 2336") << "svcd-2336.bin" << QStringList{kS2336} << "svcd";
+        QTest::newRow("VCD, NRG") << "vcd.nrg" << QStringList() << "vcd";
+        QTest::newRow("--norip: the descriptor only")
+            << "vcd-2352.bin" << QStringList{"--norip"} << "";
+        QTest::newRow("the other switches")
+            << "vcd-2352.bin" << QStringList{"--no-ext-psd", "--nofiles", "--nosegments"} << "vcd";
+    }
+
+    void vcdxripGivesTheDiscsFiles() {
+        QFETCH(QString, image);
+        QFETCH(QStringList, options);
+        QFETCH(QString, mediaOf);
+        const QString xml = outputFolder_ + "/" + kXmlName;
+        const bool plainRip =
+            !mediaOf.isEmpty() && (options.isEmpty() || options == QStringList{kS2336});
+        options << "-v"
+                << "--output-file=" + xml;
+        const ToolRun result = run(kVcdxrip, image, options);
+        QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
+        QVERIFY2(LogSucceeded(result.out, kDone), result.out.constData());
+        QMap<QString, QByteArray> made = FilesIn(outputFolder_);
+        // The descriptor's comment names the arguments the adapter was given, the user's image
+        // among them, not its temporary cue sheet; the rest is what the real tool writes from
+        // the disc's own cue sheet.
+        QByteArray descriptor = made.take(kXmlName);
+        const QByteArray comment = descriptor.split('\n').value(2);
+        const QString given = (options << (image.endsWith(".nrg") ? "--nrg-file=" : "--bin-file=") +
+                                              imageFolder_ + "/" + imageName_)
+                                  .join(' ');
+        QVERIFY2(comment.endsWith(" " + given.toUtf8().replace("--", "-=") + " -->"),
+                 comment.constData());
+        if (plainRip) {
+            QByteArray real = ReadBytes(Media("ref-" + mediaOf + "/ref.xml"));
+            QCOMPARE(descriptor.replace(comment, ""), real.replace(real.split('\n').value(2), ""));
+        }
+        const QMap<QString, QByteArray> expected = referenceMedia(mediaOf);
+        QVERIFY(mediaOf.isEmpty() || expected.contains(QStringLiteral("avseq01.mpg")));
+        QCOMPARE(made.keys(), expected.keys());
+        QVERIFY(made == expected);
+    }
+
+    void whatCannotBeReadFailsTheJob_data() {
+        QTest::addColumn<QString>("adapter");
+        QTest::addColumn<QString>("image");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("logged");
+        QTest::addColumn<QByteArray>("toolEnd");
+        const QByteArray status = "ended with status";
+        QTest::newRow("vcddebug: 2336-byte image read as 2352")
+            << kVcddebug << "vcd-2336.bin" << QStringList{"-q"} << kWarning << status;
+        QTest::newRow("vcddebug: damaged INFO.VCD, vcd-info crashes")
+            << kVcddebug << "damaged.bin" << QStringList{"-v"} << kWarning
+            << QByteArray("ended by signal");
+        const QStringList xml{"-v", "--output-file=videocd.xml"};
+        QTest::newRow("vcdxrip: 2336-byte image read as 2352")
+            << kVcdxrip << "vcd-2336.bin" << xml << QByteArray() << QByteArray();
+        QTest::newRow("vcdxrip: 2352-byte image read as 2336")
+            << kVcdxrip << "svcd-2352.bin" << xml + QStringList{kS2336} << QByteArray()
+            << QByteArray();
+        QTest::newRow("vcdxrip: random bytes as 2336")
+            << kVcdxrip << "random.bin" << xml + QStringList{kS2336} << QByteArray()
+            << QByteArray();
+    }
+
+    void whatCannotBeReadFailsTheJob() {
+        QFETCH(QString, adapter);
+        QFETCH(QString, image);
+        QFETCH(QStringList, options);
+        QFETCH(QByteArray, logged);
+        QFETCH(QByteArray, toolEnd);
+        const ToolRun result = run(adapter, image, options);
+        QVERIFY(!result.crashed && result.exitCode != 0);
+        QVERIFY2(result.errors.contains(QFileInfo(adapter).fileName().toUtf8() + ": ") &&
+                     result.errors.contains(toolEnd),
+                 result.errors.constData());
+        QVERIFY2(result.out.contains(logged + "\r\n") && !result.out.contains(kDone),
+                 result.out.constData());
+    }
 
 private:
-    ToolRun run(const QString& adapter, const QString& image, QStringList args);
+    // Copies `image` alone into the image folder and runs `adapter` in the output folder with
+    // `args` and the image's switch, --nrg-file= for an NRG and --bin-file= for the rest.
+    ToolRun run(const QString& adapter, const QString& image, QStringList args) {
+        if (image.endsWith(QLatin1String(".nrg")))
+            imageName_.replace(".bin", ".nrg");
+        const QString copy = imageFolder_ + "/" + imageName_;
+        QFile::copy(Media(image), copy);
+        args << (image.endsWith(QLatin1String(".nrg")) ? "--nrg-file=" : "--bin-file=") + copy;
+        const QString log = outputFolder_ + "/log.txt";
+        ToolRun result = RunProgram(adapter, args, outputFolder_, log, tmp_);
+        result.out = ReadBytes(log);
+        QFile::remove(log);
+        return result;
+    }
+
     QMap<QString, QByteArray> referenceMedia(const QString& disc) const;
     QTemporaryDir scratch_;
     QString imageFolder_, imageName_, outputFolder_, tmp_;
 };
 
-void ReadTest::initTestCase() {
-    QVERIFY(QFile::exists(kVcddebug) && QFile::exists(kVcdxrip));
-    QVERIFY(scratch_.isValid());
-}
-
-void ReadTest::init() {
-    imageFolder_ = FreshFolder(scratch_.path(), QStringLiteral("dl & co; $HOME |<x>/Ünïcødé"));
-    outputFolder_ = FreshFolder(scratch_.path(), QStringLiteral("out $dir; & <x>/_vtools"));
-    tmp_ = FreshFolder(scratch_.path(), QStringLiteral("tmp"));
-    imageName_ = QStringLiteral("-lost disc=1 ü.bin");
-}
-
-void ReadTest::cleanup() {
-    QCOMPARE(EntriesOf(imageFolder_), QStringList{imageName_});
-    QCOMPARE(EntriesOf(tmp_), QStringList());
-}
-
-// Copies `image` alone into the image folder and runs `adapter` in the output folder with
-// `args` and the image's switch, --nrg-file= for an NRG and --bin-file= for the rest.
-ToolRun ReadTest::run(const QString& adapter, const QString& image, QStringList args) {
-    if (image.endsWith(QLatin1String(".nrg")))
-        imageName_.replace(".bin", ".nrg");
-    const QString copy = imageFolder_ + "/" + imageName_;
-    QFile::copy(Media(image), copy);
-    args << (image.endsWith(QLatin1String(".nrg")) ? "--nrg-file=" : "--bin-file=") + copy;
-    const QString log = outputFolder_ + "/log.txt";
-    ToolRun result = RunProgram(adapter, args, outputFolder_, log, tmp_);
-    result.out = ReadBytes(log);
-    QFile::remove(log);
-    return result;
-}
-
 QMap<QString, QByteArray> ReadTest::referenceMedia(const QString& disc) const {
     QMap<QString, QByteArray> media = FilesIn(Media("ref-" + disc));
     media.remove("ref.xml");
     return media;
-}
-
-void ReadTest::vcddebugReportsTheDisc_data() {
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QStringList>("switches");
-    QTest::newRow("VCD, 2352, verbose") << "vcd-2352.bin" << QStringList{"-v"};
-    QTest::newRow("VCD, 2336") << "vcd-2336.bin" << QStringList{kS2336, "-v"};
-    QTest::newRow("SVCD, 2336, quiet") << "svcd-2336.bin" << QStringList{kS2336, "-q"};
-}
-
-void ReadTest::vcddebugReportsTheDisc() {
-    QFETCH(QString, image);
-    QFETCH(QStringList, switches);
-    const ToolRun result = run(kVcddebug, image, switches);
-    QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
-    QCOMPARE(result.out.count('\n'), result.out.count("\r\n"));
-    QVERIFY(!result.out.contains(kWarning));
-    // The whole structure, tracks included, as the real tool reports it from the 2352-byte
-    // image with its cue sheet; the "Source:" line names the user's file.
-    const QString cue = Media(image.section('-', 0, 0) + "-2352.cue");
-    const QByteArray real = RealReport(cue, switches);
-    QVERIFY(real.contains("CD-ROM TRACKS (1 - 2)"));
-    QCOMPARE(Comparable(result.out), Comparable(real));
-    QVERIFY(result.out.contains("Source: image file `" + QFile::encodeName(imageFolder_) + "/" +
-                                QFile::encodeName(imageName_) + "'"));
-}
-
-void ReadTest::vcdxripGivesTheDiscsFiles_data() {
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("mediaOf");  // the disc whose reference rip is expected, or none
-    QTest::newRow("VCD, BIN of 2352") << "vcd-2352.bin" << QStringList() << "vcd";
-    QTest::newRow("VCD, BIN of 2336") << "vcd-2336.bin" << QStringList{kS2336} << "vcd";
-    QTest::newRow("SVCD, BIN of 2336") << "svcd-2336.bin" << QStringList{kS2336} << "svcd";
-    QTest::newRow("VCD, NRG") << "vcd.nrg" << QStringList() << "vcd";
-    QTest::newRow("--norip: the descriptor only") << "vcd-2352.bin" << QStringList{"--norip"} << "";
-    QTest::newRow("the other switches")
-        << "vcd-2352.bin" << QStringList{"--no-ext-psd", "--nofiles", "--nosegments"} << "vcd";
-}
-
-void ReadTest::vcdxripGivesTheDiscsFiles() {
-    QFETCH(QString, image);
-    QFETCH(QStringList, options);
-    QFETCH(QString, mediaOf);
-    const QString xml = outputFolder_ + "/" + kXmlName;
-    const bool plainRip =
-        !mediaOf.isEmpty() && (options.isEmpty() || options == QStringList{kS2336});
-    options << "-v"
-            << "--output-file=" + xml;
-    const ToolRun result = run(kVcdxrip, image, options);
-    QVERIFY2(!result.crashed && result.exitCode == 0, result.errors.constData());
-    QVERIFY2(LogSucceeded(result.out, kDone), result.out.constData());
-    QMap<QString, QByteArray> made = FilesIn(outputFolder_);
-    // The descriptor's comment names the arguments the adapter was given, the user's image
-    // among them, not its temporary cue sheet; the rest is what the real tool writes from
-    // the disc's own cue sheet.
-    QByteArray descriptor = made.take(kXmlName);
-    const QByteArray comment = descriptor.split('\n').value(2);
-    const QString given = (options << (image.endsWith(".nrg") ? "--nrg-file=" : "--bin-file=") +
-                                          imageFolder_ + "/" + imageName_)
-                              .join(' ');
-    QVERIFY2(comment.endsWith(" " + given.toUtf8().replace("--", "-=") + " -->"),
-             comment.constData());
-    if (plainRip) {
-        QByteArray real = ReadBytes(Media("ref-" + mediaOf + "/ref.xml"));
-        QCOMPARE(descriptor.replace(comment, ""), real.replace(real.split('\n').value(2), ""));
-    }
-    const QMap<QString, QByteArray> expected = referenceMedia(mediaOf);
-    QVERIFY(mediaOf.isEmpty() || expected.contains(QStringLiteral("avseq01.mpg")));
-    QCOMPARE(made.keys(), expected.keys());
-    QVERIFY(made == expected);
-}
-
-void ReadTest::whatCannotBeReadFailsTheJob_data() {
-    QTest::addColumn<QString>("adapter");
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QByteArray>("logged");
-    QTest::addColumn<QByteArray>("toolEnd");
-    const QByteArray status = "ended with status";
-    QTest::newRow("vcddebug: 2336-byte image read as 2352")
-        << kVcddebug << "vcd-2336.bin" << QStringList{"-q"} << kWarning << status;
-    QTest::newRow("vcddebug: damaged INFO.VCD, vcd-info crashes")
-        << kVcddebug << "damaged.bin" << QStringList{"-v"} << kWarning
-        << QByteArray("ended by signal");
-    const QStringList xml{"-v", "--output-file=videocd.xml"};
-    QTest::newRow("vcdxrip: 2336-byte image read as 2352")
-        << kVcdxrip << "vcd-2336.bin" << xml << QByteArray() << QByteArray();
-    QTest::newRow("vcdxrip: 2352-byte image read as 2336")
-        << kVcdxrip << "svcd-2352.bin" << xml + QStringList{kS2336} << QByteArray() << QByteArray();
-    QTest::newRow("vcdxrip: random bytes as 2336")
-        << kVcdxrip << "random.bin" << xml + QStringList{kS2336} << QByteArray() << QByteArray();
-}
-
-void ReadTest::whatCannotBeReadFailsTheJob() {
-    QFETCH(QString, adapter);
-    QFETCH(QString, image);
-    QFETCH(QStringList, options);
-    QFETCH(QByteArray, logged);
-    QFETCH(QByteArray, toolEnd);
-    const ToolRun result = run(adapter, image, options);
-    QVERIFY(!result.crashed && result.exitCode != 0);
-    QVERIFY2(result.errors.contains(QFileInfo(adapter).fileName().toUtf8() + ": ") &&
-                 result.errors.contains(toolEnd),
-             result.errors.constData());
-    QVERIFY2(result.out.contains(logged + "\r\n") && !result.out.contains(kDone),
-             result.out.constData());
 }
 
 QTEST_MAIN(ReadTest)
