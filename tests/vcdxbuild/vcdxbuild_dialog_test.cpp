@@ -1,29 +1,18 @@
 // The VCDXBUILD dialog: script, checks at Go, report, interlock and the cue sheet's rewrite.
 
 #include "author/frm_vcdxbuild.h"
-#include "shell/frm_mainmenu.h"
 #include "tests/support/file_size_limit.h"
-#include "tests/support/job_driver.h"
-
-#include <QCheckBox>
-#include <QPushButton>
+#include "tests/vcdxbuild/dialog_fixture.h"
 
 using namespace torvane;
 using namespace torvane::test;
 
 namespace {
 
-// The whole script: the fixed lines around the job's description and command in `lines`.
-QStringList Script(const QString& lines) {
-    const int command = lines.lastIndexOf('\n') + 1;
-    return QStringLiteral(
-               "echo off\ncls\necho VCDXBUILD Tool - Batch File (quelmora productions)\n"
-               "echo ==================================================\n%1\necho.\n"
-               "echo Please wait for this process to complete. It may take\necho a few minutes.\n"
-               "%2\necho.\necho Finished!\npause\ncls\necho ***end***")
-        .arg(lines.left(command - 1), lines.mid(command))
-        .split('\n');
-}
+const char* const kBanner =
+    "echo VCDXBUILD Tool - Batch File (quelmora productions)\n"
+    "echo ==================================================\n";
+using Fixture = DialogFixture<frm_vcdxbuild>;
 
 const QByteArray kSheet =
     "  TRACK 01 MODE2/2352\r\n    INDEX 01 00:00:00\r\n    INDEX 02 00:10:00\r\n";
@@ -33,16 +22,6 @@ const QString kBox74 = QStringLiteral(
     "The process has finished successfully!\r\rThe image size is: 74 minutes, 3 seconds, 40 "
     "sectors.\r\rIt may fit on a 74min/650MB CD-R disc with a small\rdegree of overburning.  "
     "Otherwise, use an 80min/700MB\rCD-R disc.\r\rDo you want to read the log file?");
-
-// A menu over fake services and an application folder with no tool yet, and its dialog.
-struct Fixture {
-    FakeServices fakes;
-    FakeAppFolder app;
-    QTemporaryDir work;
-    frm_mainmenu menu{fakes.services, app.path()};
-    frm_vcdxbuild& dialog = *qobject_cast<frm_vcdxbuild*>(menu.openTool("vcdxbuild"));
-    ~Fixture() { CloseDialog(&dialog, fakes.boxes); }
-};
 
 }  // namespace
 
@@ -89,7 +68,7 @@ void VcdxbuildDialogTest::commandAndScript() {
     QFETCH(QString, cuePath);
     QFETCH(QString, script);
     const VcdxbuildJob job = BuildVcdxbuildJob(in);
-    QCOMPARE(job.plan.scriptLines, Script(script));
+    QCOMPARE(job.plan.scriptLines, Script(kBanner, script, true));
     QCOMPARE(job.cue_path, cuePath);
     // The job runs in the input's folder; the report reads the log the command writes.
     const QString jobDir = in.sep == '\\' ? "C:\\proj\\" : "/home/u/my proj/";
@@ -109,7 +88,7 @@ void VcdxbuildDialogTest::goRefusesInOrder_data() {
 }
 
 void VcdxbuildDialogTest::goRefusesInOrder() {
-    Fixture f;
+    Fixture f("vcdxbuild");
     PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
 }
 
@@ -143,27 +122,20 @@ void VcdxbuildDialogTest::job() {
     QFETCH(QString, box);
     QFETCH(QString, cue);
     std::optional<FileSizeLimit> full;  // outlives the dialog, whose box would set it
-    Fixture f;
+    Fixture f("vcdxbuild");
     const bool toc = clicks.endsWith("opt_toc"), diskFull = cue == "unwritable";
-    const QString args = f.work.filePath("args.txt"), input = f.work.filePath("-v cd & co.xml");
-    const QString imgDir = f.work.filePath("img; $x/"), cuePath = imgDir + "movie.cue";
-    const QString image = imgDir + (toc ? "movie.toc" : "movie.bin");
-    QVERIFY(QDir().mkpath(imgDir));
+    const QString input = f.work.filePath("-v cd & co.xml"), imgDir = f.work.filePath("img; $x/");
+    const QString cuePath = imgDir + "movie.cue",
+                  image = imgDir + (toc ? "movie.toc" : "movie.bin");
     // The tool's own cue sheet, there before the job ends.
-    QFile sheet(cuePath);
-    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write(kSheet) > 0 && sheet.flush());
-    f.app.addRecordingTool("vcdxbuild.exe", args, QByteArray(log).replace("\r\n", "\\r\\n"));
-    for (const QString& name : clicks.split(' '))
-        f.dialog.findChild<QAbstractButton*>(name)->click();
-    f.fakes.files.names = {input, image};
-    f.dialog.cmd_input->click();
-    f.dialog.cmd_output->click();
+    QVERIFY(QDir().mkpath(imgDir) && WriteBytes(cuePath, kSheet));
+    f.prepare("vcdxbuild.exe", clicks, input, image, log);
     QCOMPARE(f.fakes.files.calls[1].filter, toc ? "All Files (*.*)|*.*|TOC Files (*.toc)|*.toc"
                                                 : "All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
     QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
     if (diskFull)
         f.fakes.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(40); };
-    QVERIFY(RunJobToIdle(*f.dialog.cmd_rip, f.dialog.frame, f.fakes.boxes, vbYes));
+    QVERIFY(f.go(vbYes));
 
     QCOMPARE(f.fakes.boxes.shown.size(), diskFull ? 2u : 1u);
     QCOMPARE(f.fakes.boxes.shown[0].text, box);
@@ -176,7 +148,7 @@ void VcdxbuildDialogTest::job() {
                                                    "--cdrdao-file=" + imgDir + "movie"}
                                      : QStringList{"-v", "--image-type=bincue",
                                                    "--cue-file=" + cuePath, "--bin-file=" + image};
-    QCOMPARE(RecordedArguments(args), expected + QStringList{input});
+    QCOMPARE(f.arguments(), expected + QStringList{input});
     QCOMPARE(ReadBytes(cuePath).contains("INDEX 02"), cue != "rewritten");
     // Back to Idle with the interlock applied anew, the tick kept.
     QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);

@@ -1,11 +1,7 @@
 // The VCDXRIP dialog: its script with either separator, checks at Go, report and interlock.
 
 #include "rip/frm_vcdxrip.h"
-#include "shell/frm_mainmenu.h"
-#include "tests/support/job_driver.h"
-
-#include <QCheckBox>
-#include <QPushButton>
+#include "tests/vcdxbuild/dialog_fixture.h"
 
 using namespace torvane;
 using namespace torvane::test;
@@ -18,27 +14,10 @@ const QString kFailureBox = QStringLiteral(
     "window\rbefore it closed.");
 const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
 
-// The whole script: the fixed lines around the job's description and command in `lines`.
-QStringList Script(const QString& lines) {
-    const int command = lines.lastIndexOf('\n') + 1;
-    return QStringLiteral(
-               "echo off\ncls\necho VCDXRIP Tool - Batch File (quelmora productions)\n"
-               "echo ================================================\n%1\necho.\n"
-               "echo Please wait for this process to complete. It may take\necho a few minutes.\n"
-               "%2\necho.\necho Finished!\npause\ncls\necho ***end***")
-        .arg(lines.left(command - 1), lines.mid(command))
-        .split('\n');
-}
-
-// A menu over fake services and an application folder with no tool yet, and its dialog.
-struct Fixture {
-    FakeServices fakes;
-    FakeAppFolder app;
-    QTemporaryDir work;
-    frm_mainmenu menu{fakes.services, app.path()};
-    frm_vcdxrip& dialog = *qobject_cast<frm_vcdxrip*>(menu.openTool("vcdxrip"));
-    ~Fixture() { CloseDialog(&dialog, fakes.boxes); }
-};
+const char* const kBanner =
+    "echo VCDXRIP Tool - Batch File (quelmora productions)\n"
+    "echo ================================================\n";
+using Fixture = DialogFixture<frm_vcdxrip>;
 }  // namespace
 
 class VcdxripDialogTest : public QObject {
@@ -83,7 +62,7 @@ void VcdxripDialogTest::commandAndScript() {
     QFETCH(QString, jobDir);
     QFETCH(QString, script);
     const JobPlan plan = BuildVcdxripJob(in);
-    QCOMPARE(plan.scriptLines, Script(script));
+    QCOMPARE(plan.scriptLines, Script(kBanner, script, true));
     QCOMPARE(QStringList({plan.jobDir, plan.scriptPath, plan.logPath}),
              QStringList({jobDir, jobDir + "run.bat", jobDir + "log.txt"}));
 }
@@ -104,7 +83,7 @@ void VcdxripDialogTest::goRefusesInOrder_data() {
 }
 
 void VcdxripDialogTest::goRefusesInOrder() {
-    Fixture f;
+    Fixture f("vcdxrip");
     PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
 }
 
@@ -129,28 +108,21 @@ void VcdxripDialogTest::job() {
     QFETCH(bool, threeFree);
     QFETCH(QByteArray, log);
     QFETCH(QStringList, switches);
-    Fixture f;
+    Fixture f("vcdxrip");
     const bool success = log.endsWith("done\r\n");
-    const QString args = f.work.filePath("args.txt"), ripDir = f.work.filePath("rip; $x & co/");
+    const QString ripDir = f.work.filePath("rip; $x & co/"), xml = ripDir + "d.xml";
     const QString input = f.work.filePath(success ? "-movie one.bin" : "movie.nrg");
-    const QString xml = ripDir + "d.xml";
     QVERIFY(QDir().mkpath(ripDir));
-    f.app.addRecordingTool("vcdxrip.exe", args, QByteArray(log).replace("\r\n", "\\r\\n"));
-    f.fakes.files.names = {input, xml};
-    f.dialog.cmd_input->click();
-    f.dialog.cmd_output->click();
-    for (const QString& name : clicks.split(' '))
-        f.dialog.findChild<QCheckBox*>(name)->click();
+    f.prepare("vcdxrip.exe", clicks, input, xml, log);
     const QStringList enabled = threeFree ? kThree : QStringList();
     QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
-    QVERIFY(RunJobToIdle(*f.dialog.cmd_rip, f.dialog.frame, f.fakes.boxes, vbYes));
+    QVERIFY(f.go(vbYes));
 
     QCOMPARE(f.fakes.boxes.shown.size(), 1u);
     QCOMPARE(f.fakes.boxes.shown[0].text, success ? kSuccessBox : kFailureBox);
     QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{ripDir + "log.txt"} : QStringList());
     const QString inputSwitch = success ? "--bin-file=" : "--nrg-file=";
-    QCOMPARE(RecordedArguments(args),
-             (switches + QStringList{"--output-file=" + xml, inputSwitch + input}));
+    QCOMPARE(f.arguments(), (switches + QStringList{"--output-file=" + xml, inputSwitch + input}));
     // Back to Idle with the interlock applied anew, the ticks kept.
     QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
     QVERIFY(f.dialog.chk_nosegments->isChecked());

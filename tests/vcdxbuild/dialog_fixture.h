@@ -1,0 +1,54 @@
+#pragma once
+// What the tool dialogs' tests share: the dialog opened from a menu over fake services, with
+// an application folder whose tool records its arguments, and the whole script of a job.
+
+#include "shell/frm_mainmenu.h"
+#include "tests/support/job_driver.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+
+namespace torvane::test {
+
+template <class Dialog>
+struct DialogFixture {
+    explicit DialogFixture(const char* tool)
+        : dialog(*qobject_cast<Dialog*>(menu.openTool(QLatin1String(tool)))) {}
+    ~DialogFixture() { CloseDialog(&dialog, fakes.boxes); }
+
+    // `tool` records its arguments and prints `log`; the named controls are clicked before
+    // the two names are picked, as the image type decides the output's file type.
+    void prepare(const char* tool, const QString& clicks, const QString& input,
+                 const QString& output, const QByteArray& log = {}) {
+        app.addRecordingTool(QLatin1String(tool), work.filePath("args.txt"),
+                             QByteArray(log).replace("\r\n", "\\r\\n"));
+        for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
+            dialog.template findChild<QAbstractButton*>(name)->click();
+        fakes.files.names = {input, output};
+        dialog.cmd_input->click();
+        dialog.cmd_output->click();
+    }
+    bool go(int answer) { return RunJobToIdle(*dialog.cmd_rip, dialog.frame, fakes.boxes, answer); }
+    QStringList arguments() const { return RecordedArguments(work.filePath("args.txt")); }
+
+    FakeServices fakes;
+    FakeAppFolder app;
+    QTemporaryDir work;
+    frm_mainmenu menu{fakes.services, app.path()};
+    Dialog& dialog;
+};
+
+// The fixed lines around a job's own `lines` (the command last) under `banner`; `wait` asks
+// for patience before the command.
+inline QStringList Script(const char* banner, const QString& lines, bool wait) {
+    const int command = lines.lastIndexOf('\n') + 1;
+    return (QStringLiteral("echo off\ncls\n") + QLatin1String(banner) + lines.left(command) +
+            "echo.\n" +
+            (wait ? "echo Please wait for this process to complete. It may take\n"
+                    "echo a few minutes.\n"
+                  : "") +
+            lines.mid(command) + "\necho.\necho Finished!\npause\ncls\necho ***end***")
+        .split('\n');
+}
+
+}  // namespace torvane::test
