@@ -10,18 +10,23 @@
 
 namespace torvane::test {
 
+// With `appDir`, the application's own tool folder; otherwise one whose tools a test adds.
 template <class Dialog>
 struct DialogFixture {
-    explicit DialogFixture(const char* tool)
-        : dialog(*qobject_cast<Dialog*>(menu.openTool(QLatin1String(tool)))) {}
+    explicit DialogFixture(const char* tool, const QString& appDir = {})
+        : menu(fakes.services, appDir.isEmpty() ? app.path() : appDir),
+          dialog(*qobject_cast<Dialog*>(menu.openTool(QLatin1String(tool)))) {
+        UseBuiltInterpreter();
+    }
     ~DialogFixture() { CloseDialog(&dialog, fakes.boxes); }
 
-    // `tool` records its arguments and prints `log`; the named controls are clicked before
-    // the two names are picked, as the image type decides the output's file type.
+    // `tool`, if named, records its arguments and prints `log`. The named controls are
+    // clicked before the two names are picked, as the image type decides the output's type.
     void prepare(const char* tool, const QString& clicks, const QString& input,
                  const QString& output, const QByteArray& log = {}) {
-        app.addRecordingTool(QLatin1String(tool), work.filePath("args.txt"),
-                             QByteArray(log).replace("\r\n", "\\r\\n"));
+        if (tool)
+            app.addRecordingTool(QLatin1String(tool), work.filePath("args.txt"),
+                                 QByteArray(log).replace("\r\n", "\\r\\n"));
         for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
             dialog.template findChild<QAbstractButton*>(name)->click();
         fakes.files.names = {input, output};
@@ -34,7 +39,7 @@ struct DialogFixture {
     FakeServices fakes;
     FakeAppFolder app;
     QTemporaryDir work;
-    frm_mainmenu menu{fakes.services, app.path()};
+    frm_mainmenu menu;
     Dialog& dialog;
 };
 

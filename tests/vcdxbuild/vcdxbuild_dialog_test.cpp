@@ -28,7 +28,6 @@ const QString kBox74 = QStringLiteral(
 class VcdxbuildDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { UseBuiltInterpreter(); }
     void commandAndScript_data();
     void commandAndScript();
     void goRefusesInOrder_data();

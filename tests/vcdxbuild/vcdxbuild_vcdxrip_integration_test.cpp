@@ -6,12 +6,8 @@
 
 #include "author/frm_vcdxbuild.h"
 #include "rip/frm_vcdxrip.h"
-#include "shell/frm_mainmenu.h"
-#include "tests/support/job_driver.h"
-#include "tests/support/tool_run.h"
+#include "tests/vcdxbuild/dialog_fixture.h"
 
-#include <QCheckBox>
-#include <QPushButton>
 #include <QRegularExpression>
 
 using namespace torvane;
@@ -24,11 +20,10 @@ private slots:
 };
 
 void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipsBack() {
-    UseBuiltInterpreter();
-    QTemporaryDir work;
-    const QString source = FreshFolder(work.path(), "src ü & co"),
-                  images = FreshFolder(work.path(), "img; $x <y>"),
-                  rip = FreshFolder(work.path(), "rip été |z");
+    DialogFixture<frm_vcdxbuild> build("vcdxbuild", TORVANE_APP_DIR);
+    const QString source = FreshFolder(build.work.path(), "src ü & co"),
+                  images = FreshFolder(build.work.path(), "img; $x <y>"),
+                  rip = FreshFolder(build.work.path(), "rip été |z");
     const QStringList clips{source + "/-clip été.mpg", source + "/zweite Ω'.mpg"};
     QVERIFY(QFile::copy(Media("clip-vcd.mpg"), clips[0]) &&
             QFile::copy(Media("clip-vcd2.mpg"), clips[1]));
@@ -38,22 +33,15 @@ void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipsBack() {
         RunProgram(AppTool("vcdxgen.exe"), {"--output-file=" + xml, "@list.txt"}, source).exitCode,
         0);
 
-    FakeServices fakes;
-    frm_mainmenu menu(fakes.services, QStringLiteral(TORVANE_APP_DIR));
-    auto* build = qobject_cast<frm_vcdxbuild*>(menu.openTool("vcdxbuild"));
-    QVERIFY(build);
-    fakes.files.names = {xml, image};
-    build->cmd_input->click();
-    build->cmd_output->click();
-    build->chk_subindex->click();
-    QVERIFY(RunJobToIdle(*build->cmd_rip, build->frame, fakes.boxes, vbNo));
+    build.prepare(nullptr, "chk_subindex", xml, image);
+    QVERIFY(build.go(vbNo));
     // The size printed back is the tool's own, without zeros in front.
     const QRegularExpressionMatch size =
         QRegularExpression(R"(finished ok.*\[(\d\d):(\d\d):(\d\d)\]\s*$)")
             .match(QString::fromUtf8(ReadBytes(images + "/log.txt")));
     QVERIFY(size.hasMatch());
-    QCOMPARE(fakes.boxes.shown.size(), 1u);
-    QCOMPARE(fakes.boxes.shown[0].text,
+    QCOMPARE(build.fakes.boxes.shown.size(), 1u);
+    QCOMPARE(build.fakes.boxes.shown[0].text,
              QStringLiteral("The process has finished successfully!\r\rThe image size is: %1 "
                             "minutes, %2 seconds, %3 sectors.\r\rIt should fit on a 21min/180MB "
                             "(8 cm) CD-R disc.\r\rDo you want to read the log file?")
@@ -63,24 +51,17 @@ void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipsBack() {
     const QByteArray cue = ReadBytes(images + "/bild Ä.cue");
     QCOMPARE(cue.count("    INDEX 01 "), 3);
     QVERIFY2(!cue.contains("FLAGS DCP") && !cue.contains("INDEX 02"), cue.constData());
-    QVERIFY(!QFile::exists(source + "/run.bat") && build->close());
 
-    auto* ripper = qobject_cast<frm_vcdxrip*>(menu.openTool("vcdxrip"));
-    QVERIFY(ripper);
-    fakes.boxes.shown.clear();
-    fakes.files.names = {image, rip + "/disc ö.xml"};
-    ripper->cmd_input->click();
-    ripper->cmd_output->click();
-    QVERIFY(RunJobToIdle(*ripper->cmd_rip, ripper->frame, fakes.boxes, vbNo));
-    QCOMPARE(fakes.boxes.shown.size(), 1u);
-    QCOMPARE(fakes.boxes.shown[0].text,
-             QStringLiteral(
-                 "The process has finished successfully!\r\rDo you want to read the log file?"));
+    DialogFixture<frm_vcdxrip> ripper("vcdxrip", TORVANE_APP_DIR);
+    ripper.prepare(nullptr, "", image, rip + "/disc ö.xml");
+    QVERIFY(ripper.go(vbNo));
+    QCOMPARE(ripper.fakes.boxes.shown.size(), 1u);
+    QCOMPARE(ripper.fakes.boxes.shown[0].text,
+             "The process has finished successfully!\r\rDo you want to read the log file?");
     QVERIFY(ReadBytes(rip + "/disc ö.xml").contains("<sequence-items>"));
     QVERIFY(ReadBytes(rip + "/avseq01.mpg") == ReadBytes(clips[0]));
     QVERIFY(ReadBytes(rip + "/avseq02.mpg") == ReadBytes(clips[1]));
     QVERIFY(!QFile::exists(rip + "/avseq03.mpg") && !QFile::exists(rip + "/run.bat"));
-    QVERIFY(ripper->close());
 }
 
 QTEST_MAIN(VcdxbuildVcdxripIntegrationTest)

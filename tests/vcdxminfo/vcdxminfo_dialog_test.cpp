@@ -19,7 +19,6 @@ using Fixture = DialogFixture<frm_vcdxminfo>;
 class VcdxminfoDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { UseBuiltInterpreter(); }
     void commandAndScript_data();
     void commandAndScript();
     void goRefusesInOrder_data();

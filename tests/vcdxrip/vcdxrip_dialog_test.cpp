@@ -23,7 +23,6 @@ using Fixture = DialogFixture<frm_vcdxrip>;
 class VcdxripDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { UseBuiltInterpreter(); }
     void commandAndScript_data();
     void commandAndScript();
     void goRefusesInOrder_data();
