@@ -43,8 +43,7 @@ struct DialogFixture {
     Dialog& dialog;
 };
 
-// The fixed lines around a job's own `lines` (the command last) under `banner`; `wait` asks
-// for patience before the command.
+// A job's own `lines`, the command last, within the fixed ones; `wait` asks for patience.
 inline QStringList Script(const char* banner, const QString& lines, bool wait) {
     const int command = lines.lastIndexOf('\n') + 1;
     return (QStringLiteral("echo off\ncls\n") + QLatin1String(banner) + lines.left(command) +

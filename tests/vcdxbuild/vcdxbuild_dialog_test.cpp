@@ -38,23 +38,20 @@ private slots:
 
 void VcdxbuildDialogTest::commandAndScript_data() {
     QTest::addColumn<VcdxbuildInputs>("in");
-    QTest::addColumn<QString>("cuePath");
     QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
     const VcdxbuildInputs windows{"C:\\proj\\videocd.xml", "D:\\img\\movie.BIN", true, false, false,
                                   "C:\\app\\VCDImager\\",  QLatin1Char('\\')};
     const VcdxbuildInputs posix{"/home/u/my proj/video cd.xml", "/movie.TOC",    false, true, false,
                                 "/opt/app/VCDImager/",          QLatin1Char('/')};
     // ".bin" and ".toc" are dropped from the image's name only as written so.
-    QTest::newRow("cue/bin, .BIN") << windows << "D:\\img\\movie.BIN.cue"
-                                   << R"(echo Input XML File:   C:\proj\videocd.xml
+    QTest::newRow("cue/bin, .BIN") << windows << R"(echo Input XML File:   C:\proj\videocd.xml
 echo Output directory: D:\img\
 echo Output imagetype: bincue
 echo Output image:     movie.BIN
 echo Option switches:   -v
 "C:\app\VCDImager\vcdxbuild.exe "  -v --image-type=bincue --cue-file="D:\img\movie.BIN.cue" --bin-file="D:\img\movie.BIN.bin"  "C:\proj\videocd.xml" > "D:\img\log.txt")";
     QTest::newRow("posix toc, 2336, .TOC in the root")
-        << posix << ""
-        << R"(echo Input XML File:   /home/u/my proj/video cd.xml
+        << posix << R"(echo Input XML File:   /home/u/my proj/video cd.xml
 echo Output directory: /
 echo Output imagetype: cdrdao
 echo Output image:     movie.TOC
@@ -64,11 +61,9 @@ echo Option switches:  --sector-2336 -v
 
 void VcdxbuildDialogTest::commandAndScript() {
     QFETCH(VcdxbuildInputs, in);
-    QFETCH(QString, cuePath);
     QFETCH(QString, script);
     const VcdxbuildJob job = BuildVcdxbuildJob(in);
     QCOMPARE(job.plan.scriptLines, Script(kBanner, script, true));
-    QCOMPARE(job.cue_path, cuePath);
     // The job runs in the input's folder; the report reads the log the command writes.
     const QString jobDir = in.sep == '\\' ? "C:\\proj\\" : "/home/u/my proj/";
     QCOMPARE(job.plan.jobDir, jobDir);

@@ -7,11 +7,6 @@ using namespace torvane;
 using namespace torvane::test;
 
 namespace {
-const QString kSuccessBox =
-    QStringLiteral("The process has finished successfully!\r\rDo you want to read the log file?");
-const QString kFailureBox = QStringLiteral(
-    "There appears to have been an error!\r\rThe error may have been shown in the console "
-    "window\rbefore it closed.");
 const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
 
 const char* const kBanner =
@@ -118,7 +113,10 @@ void VcdxripDialogTest::job() {
     QVERIFY(f.go(vbYes));
 
     QCOMPARE(f.fakes.boxes.shown.size(), 1u);
-    QCOMPARE(f.fakes.boxes.shown[0].text, success ? kSuccessBox : kFailureBox);
+    QCOMPARE(f.fakes.boxes.shown[0].text,
+             success ? "The process has finished successfully!\r\rDo you want to read the log file?"
+                     : "There appears to have been an error!\r\rThe error may have been shown in "
+                       "the console window\rbefore it closed.");
     QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{ripDir + "log.txt"} : QStringList());
     const QString inputSwitch = success ? "--bin-file=" : "--nrg-file=";
     QCOMPARE(f.arguments(), (switches + QStringList{"--output-file=" + xml, inputSwitch + input}));
