@@ -19,88 +19,85 @@ using Fixture = DialogFixture<frm_vcdxminfo>;
 class VcdxminfoDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void commandAndScript_data();
-    void commandAndScript();
-    void goRefusesInOrder_data();
-    void goRefusesInOrder();
-    void job_data();
-    void job();
-};
-
-void VcdxminfoDialogTest::commandAndScript_data() {
-    QTest::addColumn<VcdxminfoInputs>("in");
-    QTest::addColumn<QString>("jobDir");
-    QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
-    const VcdxminfoInputs windows{"D:\\in\\clip.mpg",     "D:\\out\\report.xml", true, true, false,
-                                  "C:\\App\\VCDImager\\", QLatin1Char('\\')};
-    const VcdxminfoInputs posix{"/in/clip one.mpg",    "/out/report.xml", false, true, true,
-                                "/opt/app/VCDImager/", QLatin1Char('/')};
-    QTest::newRow("generic and aps") << windows << "D:\\out\\"
-                                     << R"(echo Input MPEG File:  D:\in\clip.mpg
+    void commandAndScript_data() {
+        QTest::addColumn<VcdxminfoInputs>("in");
+        QTest::addColumn<QString>("jobDir");
+        QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
+        const VcdxminfoInputs windows{
+            "D:\\in\\clip.mpg",     "D:\\out\\report.xml", true, true, false,
+            "C:\\App\\VCDImager\\", QLatin1Char('\\')};
+        const VcdxminfoInputs posix{"/in/clip one.mpg",    "/out/report.xml", false, true, true,
+                                    "/opt/app/VCDImager/", QLatin1Char('/')};
+        QTest::newRow("generic and aps") << windows << "D:\\out\\"
+                                         << R"(echo Input MPEG File:  D:\in\clip.mpg
 echo Output XML File:  report.xml
 echo Option switches:  -i -a -v -p
 "C:\App\VCDImager\vcdxminfo.exe" -i -a -v  -p --output-file="D:\out\report.xml" "D:\in\clip.mpg")";
-    QTest::newRow("posix, relaxed aps alone") << posix << "/out/"
-                                              << R"(echo Input MPEG File:  /in/clip one.mpg
+        QTest::newRow("posix, relaxed aps alone") << posix << "/out/"
+                                                  << R"(echo Input MPEG File:  /in/clip one.mpg
 echo Output XML File:  report.xml
 echo Option switches:   -a --relaxed-aps -v -p
 "/opt/app/VCDImager/vcdxminfo.exe"  -a --relaxed-aps -v  -p --output-file="/out/report.xml" "/in/clip one.mpg")";
-}
+    }
 
-void VcdxminfoDialogTest::commandAndScript() {
-    QFETCH(VcdxminfoInputs, in);
-    QFETCH(QString, jobDir);
-    QFETCH(QString, script);
-    const JobPlan plan = BuildVcdxminfoJob(in);
-    QCOMPARE(plan.scriptLines, Script(kBanner, script, false));
-    QCOMPARE(plan.jobDir, jobDir);
-    QCOMPARE(plan.scriptPath, jobDir + "run.bat");
-}
+    void commandAndScript() {
+        QFETCH(VcdxminfoInputs, in);
+        QFETCH(QString, jobDir);
+        QFETCH(QString, script);
+        const JobPlan plan = BuildVcdxminfoJob(in);
+        QCOMPARE(plan.scriptLines, Script(kBanner, script, false));
+        QCOMPARE(plan.jobDir, jobDir);
+        QCOMPARE(plan.scriptPath, jobDir + "run.bat");
+    }
 
-void VcdxminfoDialogTest::goRefusesInOrder_data() {
-    AddRefusalColumns();
-    RefusalRow("nothing set: the output first", "", "", "You have not set an output file!");
-    RefusalRow("no input", "", "r.xml", "You have not loaded an input XML file!");
-    RefusalRow("a quote in the output", "/m/a.mpg", "say \"hi\".xml",
-               "This file name cannot be passed to the tool:");
-    RefusalRow("an output folder that does not exist", "/m/a.mpg", "gone/r.xml",
-               "The folder does not exist:");
-}
+    void goRefusesInOrder_data() {
+        AddRefusalColumns();
+        RefusalRow("nothing set: the output first", "", "", "You have not set an output file!");
+        RefusalRow("no input", "", "r.xml", "You have not loaded an input XML file!");
+        RefusalRow("a quote in the output", "/m/a.mpg", "say \"hi\".xml",
+                   "This file name cannot be passed to the tool:");
+        RefusalRow("an output folder that does not exist", "/m/a.mpg", "gone/r.xml",
+                   "The folder does not exist:");
+    }
 
-void VcdxminfoDialogTest::goRefusesInOrder() {
-    Fixture f("vcdxminfo");
-    PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
-}
+    void goRefusesInOrder() {
+        Fixture f("vcdxminfo");
+        PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
+    }
 
-void VcdxminfoDialogTest::job_data() {
-    QTest::addColumn<QString>("clicks");
-    QTest::addColumn<QStringList>("switches");
-    QTest::addColumn<int>("answer");  // to opening the report
-    // Without APS the relaxed tick is moot: grey, kept, and left out of the command.
-    QTest::newRow("no aps, opened") << "chk_apsrelaxed chk_aps" << QStringList{"-i"} << vbYes;
-    QTest::newRow("relaxed aps, not opened")
-        << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << vbNo;
-}
+    void job_data() {
+        QTest::addColumn<QString>("clicks");
+        QTest::addColumn<QStringList>("switches");
+        QTest::addColumn<int>("answer");  // to opening the report
+        // Without APS the relaxed tick is moot: grey, kept, and left out of the command.
+        QTest::newRow("no aps, opened") << "chk_apsrelaxed chk_aps" << QStringList{"-i"} << vbYes;
+        QTest::newRow("relaxed aps, not opened")
+            << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << vbNo;
+    }
 
-void VcdxminfoDialogTest::job() {
-    QFETCH(QString, clicks);
-    QFETCH(QStringList, switches);
-    QFETCH(int, answer);
-    Fixture f("vcdxminfo");
-    const QString input = f.work.filePath("-clip & co.mpg"), output = f.work.filePath("r; $x.xml");
-    f.prepare("vcdxminfo.exe", clicks, input, output);
-    const bool aps = switches.contains("-a");
-    QCOMPARE(f.dialog.chk_apsrelaxed->isEnabled(), aps);
-    QVERIFY(f.go(answer));
+    void job() {
+        QFETCH(QString, clicks);
+        QFETCH(QStringList, switches);
+        QFETCH(int, answer);
+        Fixture f("vcdxminfo");
+        const QString input = f.work.filePath("-clip & co.mpg"),
+                      output = f.work.filePath("r; $x.xml");
+        f.prepare("vcdxminfo.exe", clicks, input, output);
+        const bool aps = switches.contains("-a");
+        QCOMPARE(f.dialog.chk_apsrelaxed->isEnabled(), aps);
+        QVERIFY(f.go(answer));
 
-    QCOMPARE(f.arguments(), (switches + QStringList{"-v", "-p", "--output-file=" + output, input}));
-    QCOMPARE(f.fakes.boxes.shown.size(), 1u);
-    QCOMPARE(f.fakes.boxes.shown[0].title, "Question");
-    QCOMPARE(f.fakes.boxes.shown[0].text,
-             "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output);
-    QCOMPARE(f.fakes.desktop.viewed, answer == vbYes ? QStringList{output} : QStringList());
-    QVERIFY(f.dialog.chk_apsrelaxed->isEnabled() == aps && f.dialog.chk_apsrelaxed->isChecked());
-}
+        QCOMPARE(f.arguments(),
+                 (switches + QStringList{"-v", "-p", "--output-file=" + output, input}));
+        QCOMPARE(f.fakes.boxes.shown.size(), 1u);
+        QCOMPARE(f.fakes.boxes.shown[0].title, "Question");
+        QCOMPARE(f.fakes.boxes.shown[0].text,
+                 "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output);
+        QCOMPARE(f.fakes.desktop.viewed, answer == vbYes ? QStringList{output} : QStringList());
+        QVERIFY(f.dialog.chk_apsrelaxed->isEnabled() == aps &&
+                f.dialog.chk_apsrelaxed->isChecked());
+    }
+};
 
 QTEST_MAIN(VcdxminfoDialogTest)
 #include "vcdxminfo_dialog_test.moc"
