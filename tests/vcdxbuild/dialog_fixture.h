@@ -1,6 +1,5 @@
 #pragma once
-// What the tool dialogs' tests share: the dialog opened from a menu over fake services, with
-// an application folder whose tool records its arguments, and the whole script of a job.
+// The tool dialogs' tests: a dialog opened from a menu over fake services, a job's script.
 
 #include "shell/frm_mainmenu.h"
 #include "tests/support/job_driver.h"

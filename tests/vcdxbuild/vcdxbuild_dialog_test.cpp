@@ -7,8 +7,6 @@
 using namespace torvane;
 using namespace torvane::test;
 
-namespace {
-
 const char* const kBanner =
     "echo VCDXBUILD Tool - Batch File (quelmora productions)\n"
     "echo ==================================================\n";
@@ -22,8 +20,6 @@ const QString kBox74 = QStringLiteral(
     "The process has finished successfully!\r\rThe image size is: 74 minutes, 3 seconds, 40 "
     "sectors.\r\rIt may fit on a 74min/650MB CD-R disc with a small\rdegree of overburning.  "
     "Otherwise, use an 80min/700MB\rCD-R disc.\r\rDo you want to read the log file?");
-
-}  // namespace
 
 class VcdxbuildDialogTest : public QObject {
     Q_OBJECT
@@ -88,17 +84,15 @@ echo Option switches:  --sector-2336 -v
             << "opt_toc opt_cuebin chk_subindex"
             << QByteArray("   INFO: start\r\n**ERROR: bad XML\r\n")
             << "There appears to have been an error!\r\rThe error may have been shown in the "
-               "console "
-               "window\rbefore it closed.  Otherwise, check your XML file."
+               "console window\rbefore it closed.  Otherwise, check your XML file."
             << "kept";
         QTest::newRow("toc, 2336: the subindex tick kept but grey; the newer tool's size field")
             << "chk_subindex chk_s2336 opt_toc"
             << QByteArray(
                    "   INFO: finished ok, image created with 1879 sectors [00:25:04]\r\n\r\n\n\r")
             << "The process has finished successfully!\r\rThe image size is: 0 minutes, 25 "
-               "seconds, "
-               "4 sectors.\r\rIt should fit on a 21min/180MB (8 cm) CD-R disc.\r\rDo you want to "
-               "read the log file?"
+               "seconds, 4 sectors.\r\rIt should fit on a 21min/180MB (8 cm) CD-R disc.\r\rDo "
+               "you want to read the log file?"
             << "kept";
         QTest::newRow("a cue that cannot be rewritten is reported")
             << "chk_subindex" << kLog74 << kBox74 << "unwritable";

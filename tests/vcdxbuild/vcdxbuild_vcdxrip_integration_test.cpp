@@ -41,7 +41,7 @@ void VcdxbuildVcdxripIntegrationTest::buildThenRipGivesTheClipBack() {
                  .arg(size[1], size[2], size[3]));
     const QByteArray cue = ReadBytes(images + "/bild Ä.cue");
     QCOMPARE(cue.count("    INDEX 01 "), 2);
-    QVERIFY2(!cue.contains("FLAGS DCP") && !cue.contains("INDEX 02"), cue.constData());
+    QVERIFY2(!cue.contains("FLAGS DCP"), cue.constData());
 
     DialogFixture<frm_vcdxrip> ripper("vcdxrip", TORVANE_APP_DIR);
     ripper.prepare(nullptr, "", image, rip + "/disc ö.xml");

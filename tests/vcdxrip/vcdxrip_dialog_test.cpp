@@ -6,15 +6,12 @@
 using namespace torvane;
 using namespace torvane::test;
 
-namespace {
 const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
 
 const char* const kBanner =
     "echo VCDXRIP Tool - Batch File (quelmora productions)\n"
     "echo ================================================\n";
 using Fixture = DialogFixture<frm_vcdxrip>;
-}  // namespace
-
 class VcdxripDialogTest : public QObject {
     Q_OBJECT
 private slots:
@@ -90,9 +87,9 @@ echo Option switches:  --sector-2336 --norip -v
         QFETCH(QStringList, switches);
         Fixture f("vcdxrip");
         const bool success = log.endsWith("done\r\n");
-        const QString ripDir = f.work.filePath("rip; $x & co/"), xml = ripDir + "d.xml";
+        const QString ripDir = FreshFolder(f.work.path(), "rip; $x & co") + '/',
+                      xml = ripDir + "d.xml";
         const QString input = f.work.filePath(success ? "-movie one.bin" : "movie.nrg");
-        QVERIFY(QDir().mkpath(ripDir));
         f.prepare("vcdxrip.exe", clicks, input, xml, log);
         const QStringList enabled = threeFree ? kThree : QStringList();
         QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
