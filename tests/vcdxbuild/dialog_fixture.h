@@ -32,6 +32,7 @@ struct DialogFixture {
         dialog.cmd_input->click();
         dialog.cmd_output->click();
     }
+    void expectRefusal() { PickAndExpectRefusal(fakes, dialog, dialog.frame, work.path()); }
     bool go(int answer) { return RunJobToIdle(*dialog.cmd_rip, dialog.frame, fakes.boxes, answer); }
     QStringList arguments() const { return RecordedArguments(work.filePath("args.txt")); }
 

@@ -12,8 +12,7 @@ const char* const kBanner =
     "echo ==================================================\n";
 using Fixture = DialogFixture<frm_vcdxbuild>;
 
-const QByteArray kSheet =
-    "  TRACK 01 MODE2/2352\r\n    INDEX 01 00:00:00\r\n    INDEX 02 00:10:00\r\n";
+const QByteArray kSheet = "    INDEX 01 00:00:00\r\n    INDEX 02 00:10:00\r\n";
 const QByteArray kLog74 =
     "   INFO: write\r\n   INFO: finished ok, image created with 333440 sectors [74:03:40]\r\n";
 const QString kBox74 = QStringLiteral(
@@ -68,10 +67,7 @@ echo Option switches:  --sector-2336 -v
                    "The folder does not exist:");
     }
 
-    void goRefusesInOrder() {
-        Fixture f("vcdxbuild");
-        PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
-    }
+    void goRefusesInOrder() { Fixture("vcdxbuild").expectRefusal(); }
 
     void job_data() {
         QTest::addColumn<QString>("clicks");  // in this order, before the image is picked
@@ -106,10 +102,8 @@ echo Option switches:  --sector-2336 -v
         std::optional<FileSizeLimit> full;  // outlives the dialog, whose box would set it
         Fixture f("vcdxbuild");
         const bool toc = clicks.endsWith("opt_toc"), diskFull = cue == "unwritable";
-        const QString input = f.work.filePath("-v cd & co.xml"),
-                      imgDir = f.work.filePath("img; $x/");
-        const QString cuePath = imgDir + "movie.cue",
-                      image = imgDir + (toc ? "movie.toc" : "movie.bin");
+        const QString input = f.work.filePath("-v & o.xml"), imgDir = f.work.filePath("img; $x/");
+        const QString cuePath = imgDir + "m.cue", image = imgDir + (toc ? "m.toc" : "m.bin");
         // The tool's own cue sheet, there before the job ends.
         QVERIFY(QDir().mkpath(imgDir) && WriteBytes(cuePath, kSheet));
         f.prepare("vcdxbuild.exe", clicks, input, image, log);
@@ -118,7 +112,7 @@ echo Option switches:  --sector-2336 -v
                      : "All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
         QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
         if (diskFull)
-            f.fakes.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(40); };
+            f.fakes.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(10); };
         QVERIFY(f.go(vbYes));
 
         QCOMPARE(f.fakes.boxes.shown.size(), diskFull ? 2u : 1u);
@@ -130,7 +124,7 @@ echo Option switches:  --sector-2336 -v
         QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{imgDir + "log.txt"} : QStringList());
         const QStringList expected =
             toc ? QStringList{"--sector-2336", "-v", "--image-type=cdrdao",
-                              "--cdrdao-file=" + imgDir + "movie"}
+                              "--cdrdao-file=" + imgDir + "m"}
                 : QStringList{"-v", "--image-type=bincue", "--cue-file=" + cuePath,
                               "--bin-file=" + image};
         QCOMPARE(f.arguments(), expected + QStringList{input});

@@ -55,10 +55,7 @@ echo Option switches:   -a --relaxed-aps -v -p
                    "The folder does not exist:");
     }
 
-    void goRefusesInOrder() {
-        Fixture f("vcdxminfo");
-        PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
-    }
+    void goRefusesInOrder() { Fixture("vcdxminfo").expectRefusal(); }
 
     void job_data() {
         QTest::addColumn<QString>("clicks");
@@ -75,8 +72,7 @@ echo Option switches:   -a --relaxed-aps -v -p
         QFETCH(QStringList, switches);
         QFETCH(int, answer);
         Fixture f("vcdxminfo");
-        const QString input = f.work.filePath("-clip & co.mpg"),
-                      output = f.work.filePath("r; $x.xml");
+        const QString input = f.work.filePath("-c & o.mpg"), output = f.work.filePath("r; $x.xml");
         f.prepare("vcdxminfo.exe", clicks, input, output);
         const bool aps = switches.contains("-a");
         QCOMPARE(f.dialog.chk_apsrelaxed->isEnabled(), aps);

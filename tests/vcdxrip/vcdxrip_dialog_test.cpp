@@ -12,6 +12,7 @@ const char* const kBanner =
     "echo VCDXRIP Tool - Batch File (quelmora productions)\n"
     "echo ================================================\n";
 using Fixture = DialogFixture<frm_vcdxrip>;
+
 class VcdxripDialogTest : public QObject {
     Q_OBJECT
 private slots:
@@ -59,10 +60,7 @@ echo Option switches:  --sector-2336 --norip -v
                    "The folder does not exist:");
     }
 
-    void goRefusesInOrder() {
-        Fixture f("vcdxrip");
-        PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
-    }
+    void goRefusesInOrder() { Fixture("vcdxrip").expectRefusal(); }
 
     void job_data() {
         QTest::addColumn<QString>("clicks");
