@@ -1,32 +1,18 @@
 // The VCDXBUILD dialog: script, checks at Go, report, interlock and the cue sheet's rewrite.
 
 #include "author/frm_vcdxbuild.h"
-#include "shell/frm_mainmenu.h"
 #include "tests/support/file_size_limit.h"
-#include "tests/support/job_driver.h"
-
-#include <QCheckBox>
-#include <QPushButton>
+#include "tests/vcdxbuild/dialog_fixture.h"
 
 using namespace torvane;
 using namespace torvane::test;
 
-namespace {
+const char* const kBanner =
+    "echo VCDXBUILD Tool - Batch File (quelmora productions)\n"
+    "echo ==================================================\n";
+using Fixture = DialogFixture<frm_vcdxbuild>;
 
-// The whole script: the fixed lines around the job's description and command in `lines`.
-QStringList Script(const QString& lines) {
-    const int command = lines.lastIndexOf('\n') + 1;
-    return QStringLiteral(
-               "echo off\ncls\necho VCDXBUILD Tool - Batch File (quelmora productions)\n"
-               "echo ==================================================\n%1\necho.\n"
-               "echo Please wait for this process to complete. It may take\necho a few minutes.\n"
-               "%2\necho.\necho Finished!\npause\ncls\necho ***end***")
-        .arg(lines.left(command - 1), lines.mid(command))
-        .split('\n');
-}
-
-const QByteArray kSheet =
-    "  TRACK 01 MODE2/2352\r\n    INDEX 01 00:00:00\r\n    INDEX 02 00:10:00\r\n";
+const QByteArray kSheet = "    INDEX 01 00:00:00\r\n    INDEX 02 00:10:00\r\n";
 const QByteArray kLog74 =
     "   INFO: write\r\n   INFO: finished ok, image created with 333440 sectors [74:03:40]\r\n";
 const QString kBox74 = QStringLiteral(
@@ -34,154 +20,120 @@ const QString kBox74 = QStringLiteral(
     "sectors.\r\rIt may fit on a 74min/650MB CD-R disc with a small\rdegree of overburning.  "
     "Otherwise, use an 80min/700MB\rCD-R disc.\r\rDo you want to read the log file?");
 
-// A menu over fake services and an application folder with no tool yet, and its dialog.
-struct Fixture {
-    FakeServices fakes;
-    FakeAppFolder app;
-    QTemporaryDir work;
-    frm_mainmenu menu{fakes.services, app.path()};
-    frm_vcdxbuild& dialog = *qobject_cast<frm_vcdxbuild*>(menu.openTool("vcdxbuild"));
-    ~Fixture() { CloseDialog(&dialog, fakes.boxes); }
-};
-
-}  // namespace
-
 class VcdxbuildDialogTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { UseBuiltInterpreter(); }
-    void commandAndScript_data();
-    void commandAndScript();
-    void goRefusesInOrder_data();
-    void goRefusesInOrder();
-    void job_data();
-    void job();
-};
-
-void VcdxbuildDialogTest::commandAndScript_data() {
-    QTest::addColumn<VcdxbuildInputs>("in");
-    QTest::addColumn<QString>("cuePath");
-    QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
-    const VcdxbuildInputs windows{"C:\\proj\\videocd.xml", "D:\\img\\movie.BIN", true, false, false,
-                                  "C:\\app\\VCDImager\\",  QLatin1Char('\\')};
-    const VcdxbuildInputs posix{"/home/u/my proj/video cd.xml", "/movie.TOC",    false, true, false,
-                                "/opt/app/VCDImager/",          QLatin1Char('/')};
-    // ".bin" and ".toc" are dropped from the image's name only as written so.
-    QTest::newRow("cue/bin, .BIN") << windows << "D:\\img\\movie.BIN.cue"
-                                   << R"(echo Input XML File:   C:\proj\videocd.xml
+    void commandAndScript_data() {
+        QTest::addColumn<VcdxbuildInputs>("in");
+        QTest::addColumn<QString>("script");  // less its fixed lines; the command comes last
+        const VcdxbuildInputs windows{
+            "C:\\proj\\videocd.xml", "D:\\img\\movie.BIN", true, false, false,
+            "C:\\app\\VCDImager\\",  QLatin1Char('\\')};
+        const VcdxbuildInputs posix{
+            "/home/u/my proj/video cd.xml", "/movie.TOC",    false, true, false,
+            "/opt/app/VCDImager/",          QLatin1Char('/')};
+        // ".bin" and ".toc" are dropped from the image's name only as written so.
+        QTest::newRow("cue/bin, .BIN") << windows << R"(echo Input XML File:   C:\proj\videocd.xml
 echo Output directory: D:\img\
 echo Output imagetype: bincue
 echo Output image:     movie.BIN
 echo Option switches:   -v
 "C:\app\VCDImager\vcdxbuild.exe "  -v --image-type=bincue --cue-file="D:\img\movie.BIN.cue" --bin-file="D:\img\movie.BIN.bin"  "C:\proj\videocd.xml" > "D:\img\log.txt")";
-    QTest::newRow("posix toc, 2336, .TOC in the root")
-        << posix << ""
-        << R"(echo Input XML File:   /home/u/my proj/video cd.xml
+        QTest::newRow("posix toc, 2336, .TOC in the root")
+            << posix << R"(echo Input XML File:   /home/u/my proj/video cd.xml
 echo Output directory: /
 echo Output imagetype: cdrdao
 echo Output image:     movie.TOC
 echo Option switches:  --sector-2336 -v
 "/opt/app/VCDImager/vcdxbuild.exe " --sector-2336 -v --image-type=cdrdao --cdrdao-file="/movie.TOC"  "/home/u/my proj/video cd.xml" > "/log.txt")";
-}
+    }
 
-void VcdxbuildDialogTest::commandAndScript() {
-    QFETCH(VcdxbuildInputs, in);
-    QFETCH(QString, cuePath);
-    QFETCH(QString, script);
-    const VcdxbuildJob job = BuildVcdxbuildJob(in);
-    QCOMPARE(job.plan.scriptLines, Script(script));
-    QCOMPARE(job.cue_path, cuePath);
-    // The job runs in the input's folder; the report reads the log the command writes.
-    const QString jobDir = in.sep == '\\' ? "C:\\proj\\" : "/home/u/my proj/";
-    QCOMPARE(job.plan.jobDir, jobDir);
-    QCOMPARE(job.plan.scriptPath, jobDir + "run.bat");
-    QVERIFY(script.endsWith("> \"" + job.plan.logPath + '"'));
-}
+    void commandAndScript() {
+        QFETCH(VcdxbuildInputs, in);
+        QFETCH(QString, script);
+        const VcdxbuildJob job = BuildVcdxbuildJob(in);
+        QCOMPARE(job.plan.scriptLines, Script(kBanner, script, true));
+        // The job runs in the input's folder, where the descriptor names its clips from.
+        QCOMPARE(job.plan.jobDir, in.sep == '\\' ? "C:\\proj\\" : "/home/u/my proj/");
+    }
 
-void VcdxbuildDialogTest::goRefusesInOrder_data() {
-    AddRefusalColumns();
-    RefusalRow("nothing set", "", "", "You have not set an output file!");
-    RefusalRow("no input", "", "m.bin", "You have not loaded an input XML file!");
-    RefusalRow("an input folder that does not exist", "gone/v.xml", "m.bin",
-               "The folder does not exist:");
-    RefusalRow("an image folder that does not exist", "v.xml", "gone/m.bin",
-               "The folder does not exist:");
-}
+    void goRefusesInOrder_data() {
+        AddRefusalColumns();
+        RefusalRow("nothing set", "", "", "You have not set an output file!");
+        RefusalRow("no input", "", "m.bin", "You have not loaded an input XML file!");
+        RefusalRow("an input folder that does not exist", "gone/v.xml", "m.bin",
+                   "The folder does not exist:");
+        RefusalRow("an image folder that does not exist", "v.xml", "gone/m.bin",
+                   "The folder does not exist:");
+    }
 
-void VcdxbuildDialogTest::goRefusesInOrder() {
-    Fixture f;
-    PickAndExpectRefusal(f.fakes, f.dialog, f.dialog.frame, f.work.path());
-}
+    void goRefusesInOrder() { Fixture("vcdxbuild").expectRefusal(); }
 
-void VcdxbuildDialogTest::job_data() {
-    QTest::addColumn<QString>("clicks");  // in this order, before the image is picked
-    QTest::addColumn<QByteArray>("log");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("cue");  // rewritten, kept, or unwritable (a full disk)
-    QTest::newRow("cue/bin: subindices removed after the question")
-        << "chk_subindex" << kLog74 << kBox74 << "rewritten";
-    QTest::newRow("back to cue/bin, a failure: the cue kept")
-        << "opt_toc opt_cuebin chk_subindex" << QByteArray("   INFO: start\r\n**ERROR: bad XML\r\n")
-        << "There appears to have been an error!\r\rThe error may have been shown in the console "
-           "window\rbefore it closed.  Otherwise, check your XML file."
-        << "kept";
-    QTest::newRow("toc, 2336: the subindex tick kept but grey; the newer tool's size field")
-        << "chk_subindex chk_s2336 opt_toc"
-        << QByteArray(
-               "   INFO: finished ok, image created with 1879 sectors [00:25:04]\r\n\r\n\n\r")
-        << "The process has finished successfully!\r\rThe image size is: 0 minutes, 25 seconds, "
-           "4 sectors.\r\rIt should fit on a 21min/180MB (8 cm) CD-R disc.\r\rDo you want to "
-           "read the log file?"
-        << "kept";
-    QTest::newRow("a cue that cannot be rewritten is reported")
-        << "chk_subindex" << kLog74 << kBox74 << "unwritable";
-}
+    void job_data() {
+        QTest::addColumn<QString>("clicks");  // in this order, before the image is picked
+        QTest::addColumn<QByteArray>("log");
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("cue");  // rewritten, kept, or unwritable (a full disk)
+        QTest::newRow("cue/bin: subindices removed after the question")
+            << "chk_subindex" << kLog74 << kBox74 << "rewritten";
+        QTest::newRow("back to cue/bin, a failure: the cue kept")
+            << "opt_toc opt_cuebin chk_subindex"
+            << QByteArray("   INFO: start\r\n**ERROR: bad XML\r\n")
+            << "There appears to have been an error!\r\rThe error may have been shown in the "
+               "console window\rbefore it closed.  Otherwise, check your XML file."
+            << "kept";
+        QTest::newRow("toc, 2336: the subindex tick kept but grey; the newer tool's size field")
+            << "chk_subindex chk_s2336 opt_toc"
+            << QByteArray(
+                   "   INFO: finished ok, image created with 1879 sectors [00:25:04]\r\n\r\n\n\r")
+            << "The process has finished successfully!\r\rThe image size is: 0 minutes, 25 "
+               "seconds, 4 sectors.\r\rIt should fit on a 21min/180MB (8 cm) CD-R disc.\r\rDo "
+               "you want to read the log file?"
+            << "kept";
+        QTest::newRow("a cue that cannot be rewritten is reported")
+            << "chk_subindex" << kLog74 << kBox74 << "unwritable";
+    }
 
-void VcdxbuildDialogTest::job() {
-    QFETCH(QString, clicks);
-    QFETCH(QByteArray, log);
-    QFETCH(QString, box);
-    QFETCH(QString, cue);
-    std::optional<FileSizeLimit> full;  // outlives the dialog, whose box would set it
-    Fixture f;
-    const bool toc = clicks.endsWith("opt_toc"), diskFull = cue == "unwritable";
-    const QString args = f.work.filePath("args.txt"), input = f.work.filePath("-v cd & co.xml");
-    const QString imgDir = f.work.filePath("img; $x/"), cuePath = imgDir + "movie.cue";
-    const QString image = imgDir + (toc ? "movie.toc" : "movie.bin");
-    QVERIFY(QDir().mkpath(imgDir));
-    // The tool's own cue sheet, there before the job ends.
-    QFile sheet(cuePath);
-    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write(kSheet) > 0 && sheet.flush());
-    f.app.addRecordingTool("vcdxbuild.exe", args, QByteArray(log).replace("\r\n", "\\r\\n"));
-    for (const QString& name : clicks.split(' '))
-        f.dialog.findChild<QAbstractButton*>(name)->click();
-    f.fakes.files.names = {input, image};
-    f.dialog.cmd_input->click();
-    f.dialog.cmd_output->click();
-    QCOMPARE(f.fakes.files.calls[1].filter, toc ? "All Files (*.*)|*.*|TOC Files (*.toc)|*.toc"
-                                                : "All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
-    QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
-    if (diskFull)
-        f.fakes.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(40); };
-    QVERIFY(RunJobToIdle(*f.dialog.cmd_rip, f.dialog.frame, f.fakes.boxes, vbYes));
+    void job() {
+        QFETCH(QString, clicks);
+        QFETCH(QByteArray, log);
+        QFETCH(QString, box);
+        QFETCH(QString, cue);
+        std::optional<FileSizeLimit> full;  // outlives the dialog, whose box would set it
+        Fixture f("vcdxbuild");
+        const bool toc = clicks.endsWith("opt_toc"), diskFull = cue == "unwritable";
+        const QString input = f.work.filePath("-v & o.xml"), imgDir = f.work.filePath("img; $x/");
+        const QString cuePath = imgDir + "m.cue", image = imgDir + (toc ? "m.toc" : "m.bin");
+        // The tool's own cue sheet, there before the job ends.
+        QVERIFY(QDir().mkpath(imgDir) && WriteBytes(cuePath, kSheet));
+        f.prepare("vcdxbuild.exe", clicks, input, image, log);
+        QCOMPARE(f.fakes.files.calls[1].filter,
+                 toc ? "All Files (*.*)|*.*|TOC Files (*.toc)|*.toc"
+                     : "All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
+        QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
+        if (diskFull)
+            f.fakes.boxes.onShow = [&full](const MessageBoxRequest&) { full.emplace(10); };
+        QVERIFY(f.go(vbYes));
 
-    QCOMPARE(f.fakes.boxes.shown.size(), diskFull ? 2u : 1u);
-    QCOMPARE(f.fakes.boxes.shown[0].text, box);
-    QCOMPARE(
-        f.fakes.boxes.shown.back().text.startsWith("The file could not be written:\r\r" + cuePath),
-        diskFull);
-    const bool success = box.startsWith("The process");
-    QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{imgDir + "log.txt"} : QStringList());
-    const QStringList expected = toc ? QStringList{"--sector-2336", "-v", "--image-type=cdrdao",
-                                                   "--cdrdao-file=" + imgDir + "movie"}
-                                     : QStringList{"-v", "--image-type=bincue",
-                                                   "--cue-file=" + cuePath, "--bin-file=" + image};
-    QCOMPARE(RecordedArguments(args), expected + QStringList{input});
-    QCOMPARE(ReadBytes(cuePath).contains("INDEX 02"), cue != "rewritten");
-    // Back to Idle with the interlock applied anew, the tick kept.
-    QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
-    QVERIFY(f.dialog.chk_subindex->isChecked());
-}
+        QCOMPARE(f.fakes.boxes.shown.size(), diskFull ? 2u : 1u);
+        QCOMPARE(f.fakes.boxes.shown[0].text, box);
+        QCOMPARE(f.fakes.boxes.shown.back().text.startsWith("The file could not be written:\r\r" +
+                                                            cuePath),
+                 diskFull);
+        const bool success = box.startsWith("The process");
+        QCOMPARE(f.fakes.desktop.viewed, success ? QStringList{imgDir + "log.txt"} : QStringList());
+        const QStringList expected =
+            toc ? QStringList{"--sector-2336", "-v", "--image-type=cdrdao",
+                              "--cdrdao-file=" + imgDir + "m"}
+                : QStringList{"-v", "--image-type=bincue", "--cue-file=" + cuePath,
+                              "--bin-file=" + image};
+        QCOMPARE(f.arguments(), expected + QStringList{input});
+        QCOMPARE(ReadBytes(cuePath).contains("INDEX 02"), cue != "rewritten");
+        // Back to Idle with the interlock applied anew, the tick kept.
+        QCOMPARE(f.dialog.chk_subindex->isEnabled(), !toc);
+        QVERIFY(f.dialog.chk_subindex->isChecked());
+    }
+};
 
 QTEST_MAIN(VcdxbuildDialogTest)
 #include "vcdxbuild_dialog_test.moc"
