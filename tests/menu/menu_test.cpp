@@ -1,6 +1,7 @@
 // The main menu: the dialog behind each button, opened by a click, an access key or Enter,
 // and the way back to the menu when it closes.
 
+#include "about/mod_about.h"
 #include "job/enter_presses_button.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
@@ -56,16 +57,10 @@ void MenuTest::buttons() {
     } else {
         button->click();
     }
-    const auto dialog = [&tool]() -> QWidget* {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (widget->objectName() == "frm_" + tool && widget->isVisible())
-                return widget;
-        return nullptr;
-    };
-    QTRY_VERIFY(dialog());  // an access key animates the click
+    QTRY_VERIFY(ComponentDialog(tool));  // an access key animates the click
     QTEST(menu.windowTitle(), "title");
     QVERIFY(!menu.isEnabled() && menu.isMinimized());
-    QVERIFY(dialog()->close());
+    QVERIFY(ComponentDialog(tool)->close());
     QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
     QVERIFY(menu.isEnabled() && !menu.isMinimized());
     QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out

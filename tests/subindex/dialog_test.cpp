@@ -108,9 +108,7 @@ void SubindexDialogTest::go() {
     QFETCH(QString, boxes);
     QFETCH(QByteArray, written);
     QTemporaryDir dir;
-    QFile sheet(dir.filePath("in.cue"));
-    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write(kSheet) == kSheet.size());
-    sheet.close();
+    QVERIFY(WriteBytes(dir.filePath("in.cue"), kSheet));
     const auto path = [&dir](const QString& name) {
         return name.isEmpty() ? name : dir.filePath(name);
     };
