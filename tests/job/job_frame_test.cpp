@@ -36,10 +36,87 @@ private slots:
         frame_->Form_Unload();
         frame_.reset(), dialog_.reset();
     }
-    void aJobGoesFromGoToReportOnce();
-    void unloadWhileRunningAsksAndYesEndsEveryProcess();
-    void aJobThatCannotStartReturnsToIdle_data();
-    void aJobThatCannotStartReturnsToIdle();
+
+    void aJobGoesFromGoToReportOnce() {
+        const QString list = work_->filePath("list.txt");
+        QFile(list).open(QIODevice::WriteOnly);
+        const JobPlan job = plan(work_->path());
+        QVERIFY(frame_->Start(job, {list}));
+        // Armed: the script is on disk as written, the first tick not yet come.
+        QVERIFY(frame_->job_running == -1 && frame_->Timer1.Tag == "0" && !frame_->console);
+        QCOMPARE(ReadBytes(job.scriptPath), JoinScriptLines(job.scriptLines).toUtf8());
+        // Running: the console waits at "pause" with the tool's output on it.
+        QVERIFY(WaitForPause(*frame_));
+        QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized() &&
+                frame_->console->attribute() == 10);
+        QVERIFY(frame_->console->title() == "Torvane -- Test Tool" &&
+                frame_->console->screenText().contains("tool ran"));
+        QCOMPARE(ReadBytes(work_->filePath("tool.out")), QByteArray("done\n"));
+        QVERIFY(events_.isEmpty());
+        // The key ends it: one report, console gone, still minimised; then idle and clean.
+        PressKeyInConsole(*frame_);
+        QVERIFY(WaitForIdle(*frame_));
+        QCOMPARE(events_, (QStringList{"report console=0 minimised=1", "enable"}));
+        QVERIFY(!frame_->Timer1.Enabled() && frame_->Timer1.Tag == "0" && !dialog_->isMinimized());
+        QVERIFY(!QFile::exists(job.scriptPath) && !QFile::exists(list));
+        QVERIFY(frame_->Form_Unload());  // idle: no question
+        QVERIFY(fakes_.boxes.shown.empty());
+    }
+
+    void unloadWhileRunningAsksAndYesEndsEveryProcess() {
+        const QString pidFile = work_->filePath("tool.pid");
+        app_->addTool("tool.exe", "echo $$ > '" + QFile::encodeName(pidFile) + "'\nexec sleep 60");
+        QVERIFY(frame_->Start(plan(work_->path())));
+        QTRY_VERIFY_WITH_TIMEOUT(!ReadBytes(pidFile).isEmpty(), kJobStepTimeoutMs);
+        const pid_t toolPid = ReadBytes(pidFile).trimmed().toInt();
+        const pid_t interpreterPid = frame_->console->processId();
+        fakes_.boxes.answers = {vbNo};
+        QVERIFY(!frame_->Form_Unload());
+        QCOMPARE(
+            fakes_.boxes.shown.back().text,
+            QStringLiteral("The command is still running!  Are you\rsure that you want to quit?"));
+        QCOMPARE(fakes_.boxes.shown.back().defaultAnswer, vbNo);
+        QVERIFY(frame_->running() && frame_->console && frame_->Timer1.Enabled());
+        fakes_.boxes.answers = {vbYes};
+        QVERIFY(frame_->Form_Unload());
+        QVERIFY(!frame_->running() && ProcessGone(interpreterPid));
+        // The tool is the interpreter's child: the hang-up reaches it through its group.
+        QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(toolPid), kJobStepTimeoutMs);
+        QVERIFY(!QFile::exists(work_->filePath("run.bat")) && events_.isEmpty());
+    }
+
+    void aJobThatCannotStartReturnsToIdle_data() {
+        QTest::addColumn<bool>("consoleTaken");
+        QTest::addColumn<QString>("jobDir");  // in the test's folder <d>
+        QTest::addColumn<QString>("box");     // the start of the one box's text
+        QTest::newRow("the one console in use") << true << ""
+                                                << "Couldn't allocate console";
+        QTest::newRow("no script")
+            << false << "/gone"
+            << "The job script could not be written:\r\r<d>/gone/run.bat\r\r";
+    }
+
+    void aJobThatCannotStartReturnsToIdle() {
+        QFETCH(bool, consoleTaken);
+        QFETCH(QString, jobDir);
+        QFETCH(QString, box);
+        // A stale script where the job would otherwise end up must not run either.
+        QVERIFY(WriteBytes(work_->filePath("run.bat"), "echo stale > stale.out"));
+        QVERIFY(QDir::setCurrent(work_->path()));
+        std::optional<CConsole> taken;
+        if (consoleTaken)
+            taken.emplace();
+        QCOMPARE(frame_->Start(plan(work_->path() + jobDir)), consoleTaken);
+        QVERIFY(WaitForIdle(*frame_));
+        QTest::qWait(300);  // time enough for a stale script to run
+        QVERIFY(!frame_->running() && !frame_->console && !frame_->Timer1.Enabled());
+        QCOMPARE(events_, QStringList{"enable"});
+        QCOMPARE(fakes_.boxes.shown.size(), 1u);
+        QVERIFY2(fakes_.boxes.shown[0].text.startsWith(box.replace("<d>", work_->path())),
+                 qPrintable(fakes_.boxes.shown[0].text));
+        QVERIFY(!QFile::exists(work_->filePath("stale.out")));
+        QCOMPARE(QFile::exists(work_->filePath("run.bat")), !consoleTaken);
+    }
 
 private:
     // A job in `jobDir` that runs the fake tool and ends at "pause".
@@ -56,85 +133,6 @@ private:
     std::unique_ptr<JobFrame> frame_;
     QStringList events_;  // the hooks as they were called, with what they saw
 };
-
-void JobFrameTest::aJobGoesFromGoToReportOnce() {
-    const QString list = work_->filePath("list.txt");
-    QFile(list).open(QIODevice::WriteOnly);
-    const JobPlan job = plan(work_->path());
-    QVERIFY(frame_->Start(job, {list}));
-    // Armed: the script is on disk as written, the first tick not yet come.
-    QVERIFY(frame_->job_running == -1 && frame_->Timer1.Tag == "0" && !frame_->console);
-    QCOMPARE(ReadBytes(job.scriptPath), JoinScriptLines(job.scriptLines).toUtf8());
-    // Running: the console waits at "pause" with the tool's output on it.
-    QVERIFY(WaitForPause(*frame_));
-    QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized() &&
-            frame_->console->attribute() == 10);
-    QVERIFY(frame_->console->title() == "Torvane -- Test Tool" &&
-            frame_->console->screenText().contains("tool ran"));
-    QCOMPARE(ReadBytes(work_->filePath("tool.out")), QByteArray("done\n"));
-    QVERIFY(events_.isEmpty());
-    // The key ends it: one report, console gone, still minimised; then idle and clean.
-    PressKeyInConsole(*frame_);
-    QVERIFY(WaitForIdle(*frame_));
-    QCOMPARE(events_, (QStringList{"report console=0 minimised=1", "enable"}));
-    QVERIFY(!frame_->Timer1.Enabled() && frame_->Timer1.Tag == "0" && !dialog_->isMinimized());
-    QVERIFY(!QFile::exists(job.scriptPath) && !QFile::exists(list));
-    QVERIFY(frame_->Form_Unload());  // idle: no question
-    QVERIFY(fakes_.boxes.shown.empty());
-}
-
-void JobFrameTest::unloadWhileRunningAsksAndYesEndsEveryProcess() {
-    const QString pidFile = work_->filePath("tool.pid");
-    app_->addTool("tool.exe", "echo $$ > '" + QFile::encodeName(pidFile) + "'\nexec sleep 60");
-    QVERIFY(frame_->Start(plan(work_->path())));
-    QTRY_VERIFY_WITH_TIMEOUT(!ReadBytes(pidFile).isEmpty(), kJobStepTimeoutMs);
-    const pid_t toolPid = ReadBytes(pidFile).trimmed().toInt();
-    const pid_t interpreterPid = frame_->console->processId();
-    fakes_.boxes.answers = {vbNo};
-    QVERIFY(!frame_->Form_Unload());
-    QCOMPARE(fakes_.boxes.shown.back().text,
-             QStringLiteral("The command is still running!  Are you\rsure that you want to quit?"));
-    QCOMPARE(fakes_.boxes.shown.back().defaultAnswer, vbNo);
-    QVERIFY(frame_->running() && frame_->console && frame_->Timer1.Enabled());
-    fakes_.boxes.answers = {vbYes};
-    QVERIFY(frame_->Form_Unload());
-    QVERIFY(!frame_->running() && ProcessGone(interpreterPid));
-    // The tool is the interpreter's child: the hang-up reaches it through its group.
-    QTRY_VERIFY_WITH_TIMEOUT(ProcessGone(toolPid), kJobStepTimeoutMs);
-    QVERIFY(!QFile::exists(work_->filePath("run.bat")) && events_.isEmpty());
-}
-
-void JobFrameTest::aJobThatCannotStartReturnsToIdle_data() {
-    QTest::addColumn<bool>("consoleTaken");
-    QTest::addColumn<QString>("jobDir");  // in the test's folder <d>
-    QTest::addColumn<QString>("box");     // the start of the one box's text
-    QTest::newRow("the one console in use") << true << ""
-                                            << "Couldn't allocate console";
-    QTest::newRow("no script") << false << "/gone"
-                               << "The job script could not be written:\r\r<d>/gone/run.bat\r\r";
-}
-
-void JobFrameTest::aJobThatCannotStartReturnsToIdle() {
-    QFETCH(bool, consoleTaken);
-    QFETCH(QString, jobDir);
-    QFETCH(QString, box);
-    // A stale script where the job would otherwise end up must not run either.
-    QVERIFY(WriteBytes(work_->filePath("run.bat"), "echo stale > stale.out"));
-    QVERIFY(QDir::setCurrent(work_->path()));
-    std::optional<CConsole> taken;
-    if (consoleTaken)
-        taken.emplace();
-    QCOMPARE(frame_->Start(plan(work_->path() + jobDir)), consoleTaken);
-    QVERIFY(WaitForIdle(*frame_));
-    QTest::qWait(300);  // time enough for a stale script to run
-    QVERIFY(!frame_->running() && !frame_->console && !frame_->Timer1.Enabled());
-    QCOMPARE(events_, QStringList{"enable"});
-    QCOMPARE(fakes_.boxes.shown.size(), 1u);
-    QVERIFY2(fakes_.boxes.shown[0].text.startsWith(box.replace("<d>", work_->path())),
-             qPrintable(fakes_.boxes.shown[0].text));
-    QVERIFY(!QFile::exists(work_->filePath("stale.out")));
-    QCOMPARE(QFile::exists(work_->filePath("run.bat")), !consoleTaken);
-}
 
 QTEST_MAIN(JobFrameTest)
 #include "job_frame_test.moc"

@@ -15,56 +15,53 @@ using namespace torvane;
 class MenuTest : public QObject {
     Q_OBJECT
 private slots:
-    void buttons_data();
-    void buttons();
+    void buttons_data() {
+        QTest::addColumn<int>("key");        // what presses the button: 0 a click, else a key
+        QTest::addColumn<QString>("title");  // the menu's title while the dialog is open
+        QTest::newRow("vcdxbuild") << int(Qt::Key_Return) << "VCDXBUILD - Torvane";
+        QTest::newRow("vcdxrip") << 0 << "VCDXRIP - Torvane";
+        QTest::newRow("vcdxminfo") << int(Qt::Key_I) << "VCDXMINFO - Torvane";
+        QTest::newRow("subindex") << int(Qt::Key_S) << "Subindicies Remover - Torvane";
+        QTest::newRow("regen") << int(Qt::Key_N) << "CUE/BIN Regenerator - Torvane";
+        for (const char* key :
+             {"vcdimager", "vcdxgen", "cdxa2mpeg", "vcddebug", "lkvcdxbuild", "lkvcdxrip"})
+            QTest::newRow(key) << 0 << "";  // no dialog yet: the button is disabled
+    }
+
+    void buttons() {
+        QFETCH(int, key);
+        QFETCH(QString, title);
+        const QString tool = QTest::currentDataTag();
+        test::FakeServices fakes;
+        frm_mainmenu menu(fakes.services, QStringLiteral("/opt/torvane"));
+        EnterPressesFocusedButton filter;
+        qApp->installEventFilter(&filter);
+        menu.show();
+        QVERIFY(QTest::qWaitForWindowActive(&menu));
+        QPushButton* button = menu.toolButtons.at(tool);
+        QCOMPARE(button->isEnabled(), !title.isEmpty());
+        if (title.isEmpty()) {
+            QVERIFY(!menu.openTool(tool));
+            return;
+        }
+        menu.SSTab1->setCurrentWidget(button->parentWidget()->parentWidget());
+        if (key == Qt::Key_Return) {
+            button->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(button, Qt::Key_Return);
+        } else if (key) {
+            QTest::keyClick(&menu, Qt::Key(key), Qt::AltModifier);  // the underlined letter
+        } else {
+            button->click();
+        }
+        QTRY_VERIFY(ComponentDialog(tool));  // an access key animates the click
+        QTEST(menu.windowTitle(), "title");
+        QVERIFY(!menu.isEnabled() && menu.isMinimized());
+        QVERIFY(ComponentDialog(tool)->close());
+        QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
+        QVERIFY(menu.isEnabled() && !menu.isMinimized());
+        QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out
+    }
 };
-
-void MenuTest::buttons_data() {
-    QTest::addColumn<int>("key");        // what presses the button: 0 a click, else a key
-    QTest::addColumn<QString>("title");  // the menu's title while the dialog is open
-    QTest::newRow("vcdxbuild") << int(Qt::Key_Return) << "VCDXBUILD - Torvane";
-    QTest::newRow("vcdxrip") << 0 << "VCDXRIP - Torvane";
-    QTest::newRow("vcdxminfo") << int(Qt::Key_I) << "VCDXMINFO - Torvane";
-    QTest::newRow("subindex") << int(Qt::Key_S) << "Subindicies Remover - Torvane";
-    QTest::newRow("regen") << int(Qt::Key_N) << "CUE/BIN Regenerator - Torvane";
-    for (const char* key :
-         {"vcdimager", "vcdxgen", "cdxa2mpeg", "vcddebug", "lkvcdxbuild", "lkvcdxrip"})
-        QTest::newRow(key) << 0 << "";  // no dialog yet: the button is disabled
-}
-
-void MenuTest::buttons() {
-    QFETCH(int, key);
-    QFETCH(QString, title);
-    const QString tool = QTest::currentDataTag();
-    test::FakeServices fakes;
-    frm_mainmenu menu(fakes.services, QStringLiteral("/opt/torvane"));
-    EnterPressesFocusedButton filter;
-    qApp->installEventFilter(&filter);
-    menu.show();
-    QVERIFY(QTest::qWaitForWindowActive(&menu));
-    QPushButton* button = menu.toolButtons.at(tool);
-    QCOMPARE(button->isEnabled(), !title.isEmpty());
-    if (title.isEmpty()) {
-        QVERIFY(!menu.openTool(tool));
-        return;
-    }
-    menu.SSTab1->setCurrentWidget(button->parentWidget()->parentWidget());
-    if (key == Qt::Key_Return) {
-        button->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(button, Qt::Key_Return);
-    } else if (key) {
-        QTest::keyClick(&menu, Qt::Key(key), Qt::AltModifier);  // the underlined letter
-    } else {
-        button->click();
-    }
-    QTRY_VERIFY(ComponentDialog(tool));  // an access key animates the click
-    QTEST(menu.windowTitle(), "title");
-    QVERIFY(!menu.isEnabled() && menu.isMinimized());
-    QVERIFY(ComponentDialog(tool)->close());
-    QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
-    QVERIFY(menu.isEnabled() && !menu.isMinimized());
-    QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out
-}
 
 QTEST_MAIN(MenuTest)
 #include "menu_test.moc"
