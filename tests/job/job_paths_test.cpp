@@ -1,5 +1,5 @@
-// What every Go handler refuses before anything is written (paths that cannot be carried
-// through a job script, folders that a job cannot write into), and the viewer's failure.
+// What every Go handler refuses before anything is written: paths that cannot be carried
+// through a job script, folders that a job cannot write into.
 
 #include "job/form_support.h"
 #include "tests/support/fake_services.h"
@@ -15,7 +15,6 @@ class JobPathsTest : public QObject {
 private slots:
     void refusals_data();
     void refusals();
-    void aFileWithoutAViewerIsNamedInABox();
 };
 
 void JobPathsTest::refusals_data() {
@@ -72,17 +71,6 @@ void JobPathsTest::refusals() {
              message.isEmpty());
     QVERIFY(boxes.shown.size() < 2);
     QCOMPARE(boxes.shown.empty() ? QString() : boxes.shown[0].text, message);
-}
-
-void JobPathsTest::aFileWithoutAViewerIsNamedInABox() {
-    test::FakeServices fakes;
-    OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
-    fakes.desktop.viewerFound = false;
-    OpenInViewer(fakes.services, QStringLiteral("/out/log.txt"));
-    QCOMPARE(fakes.desktop.viewed.size(), 2);
-    QCOMPARE(fakes.boxes.shown.size(), 1u);  // only for the second
-    QCOMPARE(fakes.boxes.shown[0].text,
-             QStringLiteral("No program on this desktop opens the file:\r\r/out/log.txt"));
 }
 
 QTEST_MAIN(JobPathsTest)
