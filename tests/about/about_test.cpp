@@ -35,8 +35,6 @@ private slots:
         QTest::newRow("Escape on Author") << "cmd_author" << int(Qt::Key_Escape) << mail;
         QTest::newRow("Website") << "cmd_website" << int(Qt::Key_Space)
                                  << "https://torvane.example.org/torvane.html";
-        QTest::newRow("Donate") << "cmd_donate" << int(Qt::Key_Space)
-                                << "https://torvane.example.org/donators.html";
     }
 
     void keys() {

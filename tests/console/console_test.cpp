@@ -194,7 +194,6 @@ private slots:
         const auto row = [](const char* name, const char* file, const char* screen) {
             QTest::newRow(name) << QString(file) << QString(screen);
         };
-        row("job script", "run.bat", "[run.bat]");
         row("blanks, quotes and operators", "a b \"c\" & $x; |.BAT", "[a b \"c\" & $x; |.BAT]");
         row("leading dash", "-x.bat", "[./-x.bat]");
         row("program in the current directory, ended before the hang-up", "prog", "program");
