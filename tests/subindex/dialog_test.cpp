@@ -66,31 +66,29 @@ private slots:
     void go_data() {
         QTest::addColumn<QString>("input");  // names in the test's folder <d>, which holds in.cue
         QTest::addColumn<QString>("output");
-        QTest::addColumn<bool>("diskFull");
         QTest::addColumn<QList<int>>("answers");
         QTest::addColumn<QString>("boxes");       // the boxes' texts, joined by '|'
         QTest::addColumn<QByteArray>("written");  // what the output holds afterwards
-        const auto row = [](const char* name, const char* in, const char* out, bool full,
-                            QList<int> answers, const QString& boxes, const QByteArray& written) {
-            QTest::newRow(name) << in << out << full << answers << boxes << written;
+        const auto row = [](const char* name, const char* in, const char* out, QList<int> answers,
+                            const QString& boxes, const QByteArray& written) {
+            QTest::newRow(name) << in << out << answers << boxes << written;
         };
         const QString overwrite("Are you sure that you want to overwrite:\r\r<d>/in.cue");
         const QString made(
             "The new cuesheet has been created!\r\rDo you want to open up the CUE file?");
-        row("no input", "", "out.cue", false, {}, "You have not selected a CUE file to open!", {});
-        row("no output", "in.cue", "", false, {},
-            "You have not set a destination CUE file to save!", {});
-        row("an output folder that does not exist", "in.cue", "gone/out.cue", false, {},
+        row("no input", "", "out.cue", {}, "You have not selected a CUE file to open!", {});
+        row("no output", "in.cue", "", {}, "You have not set a destination CUE file to save!", {});
+        row("an output folder that does not exist", "in.cue", "gone/out.cue", {},
             "The folder does not exist:\r\r<d>/gone/\r\rPlease choose a folder that exists.", {});
-        row("a new name, opened afterwards", "in.cue", "out.cue", false, {vbYes}, made, kRewritten);
-        row("no viewer for it", "in.cue", "out.cue", false, {vbYes},
+        row("a new name, opened afterwards", "in.cue", "out.cue", {vbYes}, made, kRewritten);
+        row("no viewer for it", "in.cue", "out.cue", {vbYes},
             made + "|No program on this desktop opens the file:\r\r<d>/out.cue", kRewritten);
-        row("the same name, overwrite No", "in.cue", "in.cue", false, {vbNo}, overwrite, kSheet);
-        row("the same name, overwrite Yes", "in.cue", "in.cue", false, {vbYes, vbNo},
+        row("the same name, overwrite No", "in.cue", "in.cue", {vbNo}, overwrite, kSheet);
+        row("the same name, overwrite Yes", "in.cue", "in.cue", {vbYes, vbNo},
             overwrite + '|' + made, kRewritten);
-        row("an input that cannot be read", "gone.cue", "out.cue", false, {},
+        row("an input that cannot be read", "gone.cue", "out.cue", {},
             "The CUE file could not be read:\r\r<d>/gone.cue", {});
-        row("a full disk keeps the sheet and says so", "in.cue", "in.cue", true, {vbYes},
+        row("a full disk keeps the sheet and says so", "in.cue", "in.cue", {vbYes},
             overwrite +
                 "|The file could not be written:\r\r<d>/in.cue\r\rFile too large\r\rAny file "
                 "of that name is as it was before.",
@@ -100,7 +98,6 @@ private slots:
     void go() {
         QFETCH(QString, input);
         QFETCH(QString, output);
-        QFETCH(bool, diskFull);
         QFETCH(QList<int>, answers);
         QFETCH(QString, boxes);
         QFETCH(QByteArray, written);
@@ -118,9 +115,7 @@ private slots:
         fakes.boxes.answers.assign(answers.begin(), answers.end());
         fakes.desktop.viewerFound = !boxes.contains("No program");
         {
-            std::optional<FileSizeLimit> full;
-            if (diskFull)
-                full.emplace(40);
+            const FileSizeLimit full(boxes.contains("File too large") ? 40 : RLIM_INFINITY);
             dialog->cmd_rip->click();
         }
         QStringList shown;
