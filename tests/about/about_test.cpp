@@ -51,23 +51,20 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), about.cmdOK);
         about.findChild<QWidget*>(focus)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
-        QVERIFY(fakes_.desktop.urls.size() < 2);
-        QTEST(
-            about.isVisible() ? fakes_.desktop.urls.value(0, about.Text1->toPlainText()) : "closed",
-            "outcome");
+        const QString shown = about.isVisible() ? about.Text1->toPlainText() : "closed";
+        QTEST(fakes_.desktop.urls.isEmpty() ? shown : fakes_.desktop.urls.join('|'), "outcome");
     }
 
     void toolBox_data() {
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QString>("firstLine");
-        QTest::addColumn<int>("closeBy");  // a key in the box; 0: its title bar
-        const auto row = [](const char* key, const char* caption, const char* line, int closeBy) {
-            QTest::newRow(key) << QString(caption) << QString(line) << closeBy;
+        QTest::addColumn<QString>("shown");  // the caption and the text's first line
+        QTest::addColumn<int>("closeBy");    // a key in the box; 0: its title bar
+        const auto row = [](const char* key, const char* shown, int closeBy) {
+            QTest::newRow(key) << QString(shown) << closeBy;
         };
-        row("cdxa2mpeg", "About CDXA2MPEG", "usage: cdxa2mpg infile [outfile]", 0);
-        row("vcdxbuild", "About VCDXBUILD", "vcdxbuild (GNU VCDImager) 0.7.12", Qt::Key_Escape);
-        row("vcdxminfo", "About VCDXMINFO", "vcdxminfo (GNU VCDImager) 0.7.12", 0);
-        row("vcdxrip", "About VCDXRIP", "vcdxrip (GNU VCDImager) 0.7.12", Qt::Key_Return);
+        row("cdxa2mpeg", "About CDXA2MPEG|usage: cdxa2mpg infile [outfile]", 0);
+        row("vcdxbuild", "About VCDXBUILD|vcdxbuild (GNU VCDImager) 0.7.12", Qt::Key_Escape);
+        row("vcdxminfo", "About VCDXMINFO|vcdxminfo (GNU VCDImager) 0.7.12", 0);
+        row("vcdxrip", "About VCDXRIP|vcdxrip (GNU VCDImager) 0.7.12", Qt::Key_Return);
     }
 
     void toolBox() {
@@ -78,9 +75,8 @@ private slots:
         dialog ? dialog->findChild<QPushButton*>("cmd_about")->click() : ShowComponentAbout(key);
         QPointer<QWidget> box = ComponentDialog("about_component");
         QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
-        QTEST(box->windowTitle(), "caption");
         auto* text = box->findChild<QPlainTextEdit*>("Text1");
-        QTEST(text->toPlainText().section('\n', 0, 0), "firstLine");
+        QTEST(box->windowTitle() + '|' + text->toPlainText().section('\n', 0, 0), "shown");
         QVERIFY(text->isReadOnly() && (!dialog || (!dialog->isEnabled() && dialog->isVisible())));
         closeBy ? QTest::keyClick(text, Qt::Key(closeBy)) : void(box->close());  // 0: the title bar
         QTRY_VERIFY(!box);

@@ -3,12 +3,10 @@
 // and what every Go handler refuses before anything is written: paths that cannot be carried
 // through a job script, folders that a job cannot write into.
 
-#include "job/job_frame.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
 #include "tests/support/job_driver.h"
 
-#include <QTest>
 #include <optional>
 
 using namespace torvane;
@@ -139,41 +137,36 @@ void JobFrameTest::refusals_data() {
     QTest::addColumn<QString>("path");     // a file the job reads or writes
     QTest::addColumn<QString>("folder");   // a folder it writes into; <d>: the test's folder
     QTest::addColumn<QString>("message");  // the one box's text, empty for none
-    const auto refusal = [](const char* shown, const char* why) {
-        return QStringLiteral(
-                   "This file name cannot be passed to the tool:\r\r%1\r\r%2\rPlease "
-                   "rename the file or choose another one.")
-            .arg(QString::fromUtf8(shown), QLatin1String(why));
+    const auto row = [](const char* name, const char* path, const char* folder,
+                        const QString& message) {
+        QTest::newRow(name) << QString(path) << QString(folder) << message;
     };
-    const auto file = [&](const char* name, const char* path, const char* shown, const char* why) {
-        QTest::newRow(name) << QString::fromUtf8(path) << "<d>/"
-                            << (*why ? refusal(shown, why) : QString());
-    };
-    const char* control =
-        "It holds a control character (a line break, a tab or an escape "
-        "character).";
-    file("fine: blanks, shell characters, non-ASCII, a leading dash, an inner backslash",
-         "-/m/a b &;|<>$'`()Ärger\\ñandú.mpg", "", "");
-    file("a double quote", "/m/say \"hi\".xml", "/m/say \"hi\".xml", "It holds a double quote.");
-    file("line feeds", "/m/movie\ntouch x\n.bin", "/m/movie?touch x?.bin", control);
-    file("an escape drawing the end marker", "/m/\x1b[H***end***", "/m/?[H***end***", control);
-    file("a carriage return, a tab, a delete", "/m/a\rb\t\x7f", "/m/a?b??", control);
-    file("a trailing backslash", "/m/dir\\", "/m/dir\\", "It ends in a backslash.");
+    const QString refused(
+        "This file name cannot be passed to the tool:\r\r%1\r\r%2\rPlease rename the file or "
+        "choose another one.");
+    const QString control(
+        "It holds a control character (a line break, a tab or an escape character).");
+    const QString quote("It holds a double quote.");
     const QString missing(
         "The folder does not exist:\r\r%1\r\rPlease choose a folder that exists.");
-    QTest::newRow("a missing folder") << "/a.mpg"
-                                      << "<d>/gone/" << missing.arg("<d>/gone/");
-    QTest::newRow("a file for a folder") << "/a.mpg"
-                                         << "<d>/plain" << missing.arg("<d>/plain");
+    row("fine: blanks, shell characters, non-ASCII, a leading dash, an inner backslash",
+        "-/m/a b &;|<>$'`()Ärger\\ñandú.mpg", "<d>/", "");
+    row("a double quote", "/m/say \"hi\".xml", "<d>/", refused.arg("/m/say \"hi\".xml", quote));
+    row("line feeds", "/m/movie\ntouch x\n.bin", "<d>/",
+        refused.arg("/m/movie?touch x?.bin", control));
+    row("an escape drawing the end marker", "/m/\x1b[H***end***", "<d>/",
+        refused.arg("/m/?[H***end***", control));
+    row("a carriage return, a tab, a delete", "/m/a\rb\t\x7f", "<d>/",
+        refused.arg("/m/a?b??", control));
+    row("a trailing backslash", "/m/dir\\", "<d>/",
+        refused.arg("/m/dir\\", "It ends in a backslash."));
+    row("a missing folder", "/a.mpg", "<d>/gone/", missing.arg("<d>/gone/"));
+    row("a file for a folder", "/a.mpg", "<d>/plain", missing.arg("<d>/plain"));
     // procfs refuses writes even to root, as a read-only folder refuses them to a user.
-    QTest::newRow("a folder that cannot be written")
-        << "/a.mpg"
-        << "/proc/self/"
-        << "The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a folder that you "
-           "may write to.";
-    QTest::newRow("the file is refused first")
-        << "/a\""
-        << "<d>/gone/" << refusal("/a\"", "It holds a double quote.");
+    row("a folder that cannot be written", "/a.mpg", "/proc/self/",
+        "The folder cannot be written to:\r\r/proc/self/\r\rPlease choose a folder that you may "
+        "write to.");
+    row("the file is refused first", "/a\"", "<d>/gone/", refused.arg("/a\"", quote));
 }
 
 void JobFrameTest::refusals() {

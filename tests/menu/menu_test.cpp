@@ -40,19 +40,17 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&menu));
         QPushButton* button = menu.toolButtons.at(tool);
         QCOMPARE(button->isEnabled(), !title.isEmpty());
-        if (title.isEmpty()) {
-            QVERIFY(!menu.openTool(tool));
+        QVERIFY(!title.isEmpty() || !menu.openTool(tool));
+        if (title.isEmpty())
             return;
-        }
         menu.SSTab1->setCurrentWidget(button->parentWidget()->parentWidget());
-        if (key == Qt::Key_Return) {
-            button->setFocus(Qt::TabFocusReason);
+        button->setFocus(Qt::TabFocusReason);
+        if (key == Qt::Key_Return)
             QTest::keyClick(button, Qt::Key_Return);
-        } else if (key) {
+        else if (key)
             QTest::keyClick(&menu, Qt::Key(key), Qt::AltModifier);  // the underlined letter
-        } else {
+        else
             button->click();
-        }
         QTRY_VERIFY(ComponentDialog(tool));  // an access key animates the click
         QTEST(menu.windowTitle(), "title");
         QVERIFY(!menu.isEnabled() && menu.isMinimized());

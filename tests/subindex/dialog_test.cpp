@@ -9,7 +9,6 @@
 #include "tests/support/job_driver.h"
 
 #include <QPushButton>
-#include <QTest>
 
 using namespace torvane;
 using namespace torvane::test;

@@ -1,7 +1,6 @@
 #pragma once
 // For tests that drive a real job: fake tools, and the steps of a user at the console.
 
-#include "job/cconsole.h"
 #include "job/job_frame.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/tool_run.h"
@@ -11,7 +10,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWidget>
 
 namespace torvane::test {
 
