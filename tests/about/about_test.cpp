@@ -1,6 +1,4 @@
-// The program's About dialog: its texts from the application folder, its buttons and keys.
-// A console tool's About box: its caption and text, and the tool's dialog disabled until the
-// box closes, however it closes.
+// The About dialog's texts, buttons and keys; a tool's About box and its dialog kept disabled.
 
 #include "about/frmAbout.h"
 #include "about/mod_about.h"

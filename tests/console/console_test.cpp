@@ -1,6 +1,4 @@
-// The console: its screen fed with bytes alone, and CConsole with real programs in its
-// terminal: what they print reaches the screen, keys typed in the console window reach
-// them, and nothing of them outlives the console.
+// The console: its screen fed bytes alone, and CConsole running real programs to the end.
 
 #include "job/cconsole.h"
 #include "job/console_window.h"

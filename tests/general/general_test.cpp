@@ -1,5 +1,4 @@
-// The shared routines every dialog leans on: the validators, the disc-fit advice, reading a
-// job log (line ends, last line, success test) and whole files read and written.
+// The shared routines: validators, disc-fit advice, job logs, whole files read and written.
 
 #include "shell/mod_general.h"
 #include "shell/whole_file_write.h"

@@ -1,5 +1,4 @@
-// The real torvane-cmd on job scripts written here: through pipes, where every byte it
-// writes is compared, and on the console's own pseudo-terminal and screen, as a job runs it.
+// torvane-cmd on job scripts: every byte it writes through pipes, and its screen on a terminal.
 
 #include "platform/pty.h"
 #include "platform/screen_model.h"

@@ -1,7 +1,5 @@
-// The job frame every tool dialog uses, through the real console and torvane-cmd: the
-// states of one job, the end-of-job step, the unload guard and the ways a job cannot start;
-// and what every Go handler refuses before anything is written: paths that cannot be carried
-// through a job script, folders that a job cannot write into.
+// The job frame through the real console and torvane-cmd: one job's states, the unload guard,
+// the ways a job cannot start, and the paths and folders Go refuses before writing anything.
 
 #include "job/form_support.h"
 #include "job/job_paths.h"

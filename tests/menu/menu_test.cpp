@@ -1,5 +1,4 @@
-// The main menu: the dialog behind each button, opened by a click, an access key or Enter,
-// and the way back to the menu when it closes.
+// The main menu: each button's dialog, opened by a click, an access key or Enter, and back.
 
 #include "about/mod_about.h"
 #include "job/enter_presses_button.h"

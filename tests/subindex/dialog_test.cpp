@@ -1,6 +1,4 @@
-// The subindices remover: its rule (copy-permit flags and subindices go, every other line
-// passes byte for byte, joined by CR LF with nothing behind the last line), and its dialog
-// (the checks ahead of the work, the overwrite question, the file on disk, the last question).
+// The subindices remover: its rule on cue sheets, and its dialog from the checks to the file.
 
 #include "additional/frm_subindex.h"
 #include "shell/frm_mainmenu.h"

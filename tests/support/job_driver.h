@@ -67,9 +67,8 @@ inline QStringList EnabledControls(const QWidget& form, const QStringList& names
 }
 
 inline QStringList RecordedArguments(const QString& argsFile) {
-    QStringList args = QString::fromUtf8(ReadBytes(argsFile)).split(QLatin1Char('\n'));
-    args.removeLast();  // after the last line end
-    return args;
+    const QString text = QString::fromUtf8(ReadBytes(argsFile));  // one line per argument
+    return text.isEmpty() ? QStringList() : text.chopped(1).split(QLatin1Char('\n'));
 }
 
 // Go, the key at "pause" and `answer` to the report's box; true once the job is idle again.
