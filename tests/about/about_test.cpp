@@ -1,12 +1,10 @@
-// The program's About dialog: its texts from the application folder, its buttons and keys.
-// A console tool's About box: its caption and text, and the tool's dialog disabled until the
-// box closes, however it closes.
+// The About dialog's texts, buttons and keys; a tool's About box and its dialog kept disabled.
 
-#include "about/component_texts.h"
 #include "about/frmAbout.h"
 #include "about/mod_about.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
+#include "tests/support/tool_run.h"
 
 #include <QApplication>
 #include <QFile>
@@ -22,84 +20,71 @@ using namespace torvane;
 class AboutTest : public QObject {
     Q_OBJECT
 private slots:
-    void keys_data();
-    void keys();
-    void toolBox_data();
-    void toolBox();
+
+    void keys_data() {
+        QTest::addColumn<QString>("focus");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("outcome");  // closed, the pane's text, or the link opened
+        const QString mail("mailto:torvane@example.org"), date("\nSaturday, 1 February 2003");
+        QTest::newRow("Enter on OK") << "cmdOK" << int(Qt::Key_Return) << "closed";
+        QTest::newRow("Enter on Author") << "cmd_author" << int(Qt::Key_Enter) << "author" + date;
+        QTest::newRow("a missing file") << "cmd_license" << int(Qt::Key_Space) << date.mid(1);
+        QTest::newRow("Enter in the pane") << "Text1" << int(Qt::Key_Return) << mail;
+        QTest::newRow("Escape on Author") << "cmd_author" << int(Qt::Key_Escape) << mail;
+        QTest::newRow("Website") << "cmd_website" << int(Qt::Key_Space)
+                                 << "https://torvane.example.org/torvane.html";
+    }
+
+    void keys() {
+        QFETCH(QString, focus);
+        QFETCH(int, key);
+        QTemporaryDir app;
+        QVERIFY(test::WriteBytes(app.filePath("author.txt"), "author\r\n"));
+        fakes_.desktop.urls.clear();
+        frmAbout about(fakes_.services, app.path());
+        QVERIFY(QFile::remove(app.filePath("author.txt")));  // the texts are read as it opens
+        about.show();
+        QVERIFY(QTest::qWaitForWindowActive(&about));
+        QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
+        QCOMPARE(QApplication::focusWidget(), about.cmdOK);
+        about.findChild<QWidget*>(focus)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        const QString shown = about.isVisible() ? about.Text1->toPlainText() : "closed";
+        QTEST(fakes_.desktop.urls.isEmpty() ? shown : fakes_.desktop.urls.join('|'), "outcome");
+    }
+
+    void toolBox_data() {
+        QTest::addColumn<QString>("shown");  // the caption and the text's first line
+        QTest::addColumn<int>("closeBy");    // a key in the box; 0: its title bar
+        const auto row = [](const char* key, const char* shown, int closeBy) {
+            QTest::newRow(key) << QString(shown) << closeBy;
+        };
+        row("cdxa2mpeg", "About CDXA2MPEG|usage: cdxa2mpg infile [outfile]", 0);
+        row("vcdxbuild", "About VCDXBUILD|vcdxbuild (GNU VCDImager) 0.7.12", Qt::Key_Escape);
+        row("vcdxminfo", "About VCDXMINFO|vcdxminfo (GNU VCDImager) 0.7.12", 0);
+        row("vcdxrip", "About VCDXRIP|vcdxrip (GNU VCDImager) 0.7.12", Qt::Key_Return);
+    }
+
+    void toolBox() {
+        const QString key = QTest::currentDataTag();
+        QFETCH(int, closeBy);
+        frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
+        QPointer<QWidget> dialog = menu.openTool(key);  // the dialogs that exist so far
+        dialog ? dialog->findChild<QPushButton*>("cmd_about")->click() : ShowComponentAbout(key);
+        QPointer<QWidget> box = ComponentDialog("about_component");
+        QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
+        auto* text = box->findChild<QPlainTextEdit*>("Text1");
+        QTEST(box->windowTitle() + '|' + text->toPlainText().section('\n', 0, 0), "shown");
+        QVERIFY(text->isReadOnly() && (!dialog || (!dialog->isEnabled() && dialog->isVisible())));
+        closeBy ? QTest::keyClick(text, Qt::Key(closeBy)) : void(box->close());  // 0: the title bar
+        QTRY_VERIFY(!box);
+        QVERIFY(!dialog || dialog->isEnabled());
+        delete dialog;
+    }
 
 private:
     test::FakeServices fakes_;
 };
-
-void AboutTest::keys_data() {
-    QTest::addColumn<QString>("focus");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("outcome");  // closed, the pane's text, or the link opened
-    const QString mail("mailto:torvane@example.org"), date("\nSaturday, 1 February 2003");
-    QTest::newRow("Enter on OK") << "cmdOK" << int(Qt::Key_Return) << "closed";
-    QTest::newRow("Enter on Author") << "cmd_author" << int(Qt::Key_Enter) << "author" + date;
-    QTest::newRow("a missing file") << "cmd_license" << int(Qt::Key_Space) << date.mid(1);
-    QTest::newRow("Enter in the pane") << "Text1" << int(Qt::Key_Return) << mail;
-    QTest::newRow("Escape on Author") << "cmd_author" << int(Qt::Key_Escape) << mail;
-    QTest::newRow("Website") << "cmd_website" << int(Qt::Key_Space)
-                             << "https://torvane.example.org/torvane.html";
-    QTest::newRow("Donate") << "cmd_donate" << int(Qt::Key_Space)
-                            << "https://torvane.example.org/donators.html";
-}
-
-void AboutTest::keys() {
-    QFETCH(QString, focus);
-    QFETCH(int, key);
-    QTemporaryDir app;
-    QFile author(app.filePath("author.txt"));
-    QVERIFY(author.open(QIODevice::WriteOnly) && author.write("author\r\n") == 8);
-    author.close();
-    fakes_.desktop.urls.clear();
-    frmAbout about(fakes_.services, app.path());
-    QVERIFY(author.remove());  // the texts are read once, as the dialog opens
-    about.show();
-    QVERIFY(QTest::qWaitForWindowActive(&about));
-    QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
-    QCOMPARE(QApplication::focusWidget(), about.cmdOK);
-    about.findChild<QWidget*>(focus)->setFocus();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
-    QVERIFY(fakes_.desktop.urls.size() < 2);
-    QTEST(about.isVisible() ? fakes_.desktop.urls.value(0, about.Text1->toPlainText()) : "closed",
-          "outcome");
-}
-
-void AboutTest::toolBox_data() {
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QString>("firstLine");
-    QTest::newRow("cdxa2mpeg") << "About CDXA2MPEG"
-                               << "usage: cdxa2mpg infile [outfile]";
-    QTest::newRow("lkvcdxrip") << "About lkVCDxRIP"
-                               << "lkVCDxRIP 5.0.7.10(win32)";
-    for (const QString tool : {"vcdimager", "vcdxbuild", "vcdxminfo", "vcdxrip"})
-        QTest::newRow(qPrintable(tool))
-            << "About " + tool.toUpper() << tool + " (GNU VCDImager) 0.7.12";
-}
-
-void AboutTest::toolBox() {
-    const QString key = QTest::currentDataTag();
-    const int closeBy = key == "vcdxbuild" ? Qt::Key_Escape : key == "vcdxrip" ? Qt::Key_Return : 0;
-    frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
-    QPointer<QWidget> dialog = menu.openTool(key);  // the dialogs that exist so far
-    dialog ? dialog->findChild<QPushButton*>("cmd_about")->click() : ShowComponentAbout(key);
-    QPointer<QWidget> box;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        box = widget->objectName() == "frm_about_component" ? widget : box.data();
-    QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
-    QTEST(box->windowTitle(), "caption");
-    auto* text = box->findChild<QPlainTextEdit*>("Text1");
-    QCOMPARE(text->toPlainText(), QString(ComponentAboutFor(key)->text).replace("\r\n", "\n"));
-    QTEST(text->toPlainText().section('\n', 0, 0), "firstLine");
-    QVERIFY(text->isReadOnly() && (!dialog || (!dialog->isEnabled() && dialog->isVisible())));
-    closeBy ? QTest::keyClick(text, Qt::Key(closeBy)) : void(box->close());  // 0: the title bar
-    QTRY_VERIFY(!box);
-    QVERIFY(!dialog || dialog->isEnabled());
-    delete dialog;
-}
 
 QTEST_MAIN(AboutTest)
 #include "about_test.moc"

@@ -1,16 +1,17 @@
-// The real torvane-cmd on job scripts written here: through pipes, where every byte it
-// writes is compared, and on the console's own pseudo-terminal and screen, as a job runs it.
+// torvane-cmd on job scripts: every byte it writes through pipes, and its screen on a terminal.
 
 #include "platform/pty.h"
 #include "platform/screen_model.h"
+#include "tests/support/tool_run.h"
 
 #include <sys/wait.h>
 #include <termios.h>
 #include <QDir>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
+
+using namespace torvane::test;
 
 namespace {
 
@@ -45,12 +46,8 @@ private slots:
             {"bin/onlypath.exe", "echo path only"},
             {"noisy.exe", "echo out; echo err >&2; exit 3"},
             {"sleeper.exe", "echo ready; exec sleep 60"}};
-        for (const auto& [path, body] : programs) {
-            QFile file(path);
-            QVERIFY(QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly));
-            file.write("#!/bin/sh\n" + body + "\n");
-            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        }
+        for (const auto& [path, body] : programs)
+            QVERIFY(QDir().mkpath(QFileInfo(path).path()) && WriteScript(path, body));
     }
 
     void scripts_data();
@@ -61,28 +58,21 @@ private slots:
         QFETCH(QByteArray, err);
         QFETCH(QString, file);
         QFETCH(QByteArray, content);
-        QFile target(file);
-        QVERIFY(file.isEmpty() || (target.open(QIODevice::WriteOnly) && target.write(kStale) > 0));
-        target.close();
+        QVERIFY(file.isEmpty() || WriteBytes(file, kStale));
         writeScript(body);
         const uint entries = QDir(work_).count();
-        QProcess process;
         // Standard input stays an open pipe: a "pause" that waited for it would hang.
-        process.start(QStringLiteral(TORVANE_CMD), {QStringLiteral("run.bat")});
-        QVERIFY(process.waitForFinished(kHangGuardMs));
-        QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(process.readAllStandardOutput(), expand("\r\n{cwd}>echo off\r\n" + out));
-        QCOMPARE(process.readAllStandardError(), expand(err));
+        const ToolRun run = RunProgram(QStringLiteral(TORVANE_CMD), {"run.bat"}, work_);
+        QVERIFY(run.finished && run.exitCode == 0);
+        QCOMPARE(run.out, expand("\r\n{cwd}>echo off\r\n" + out));
+        QCOMPARE(run.errors, expand(err));
         QCOMPARE(QDir(work_).count(), entries);  // no stray file
-        if (!file.isEmpty()) {
-            QVERIFY(target.open(QIODevice::ReadOnly));
-            QCOMPARE(target.readAll(), content);
-            QVERIFY(target.remove());
-        }
+        QCOMPARE(file.isEmpty() ? content : ReadBytes(file), content);
+        QFile::remove(file);
     }
 
     void aScriptThatCannotBeReadEndsWithStatusTwo() {
-        QCOMPARE(QProcess::execute(QStringLiteral(TORVANE_CMD), {QStringLiteral("no such")}), 2);
+        QCOMPARE(RunProgram(QStringLiteral(TORVANE_CMD), {"no such"}, work_).exitCode, 2);
     }
 
     void onATerminal_data();
@@ -127,9 +117,7 @@ private:
     }
     // Every script starts with "echo off", which torvane-cmd shows, as echo starts on.
     void writeScript(const QByteArray& body) const {
-        QFile file(QStringLiteral("run.bat"));
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(expand("echo off\r\n" + body));
+        QVERIFY(WriteBytes(QStringLiteral("run.bat"), expand("echo off\r\n" + body)));
     }
 
     QTemporaryDir dir_;

@@ -14,17 +14,22 @@
 
 namespace torvane::test {
 
+template <typename T>
+T TakeFirst(std::deque<T>& queue, T none) {
+    if (!queue.empty()) {
+        none = std::move(queue.front());
+        queue.pop_front();
+    }
+    return none;
+}
+
 class FakeMessageBoxes : public MessageBoxes {
 public:
     int show(const MessageBoxRequest& request) override {
         shown.push_back(request);
         if (onShow)
             onShow(request);
-        if (answers.empty())
-            return request.defaultAnswer;
-        const int answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return TakeFirst(answers, request.defaultAnswer);
     }
     std::vector<MessageBoxRequest> shown;
     std::deque<int> answers;
@@ -34,31 +39,18 @@ public:
 class FakeFileDialogs : public FileDialogs {
 public:
     struct Call {
-        bool save;
         QString filter;
-        int filterIndex;
-        QString folder;
     };
-    std::optional<QString> openFileName(const QString& filter, int filterIndex,
-                                        const QString& folder) override {
-        return next({false, filter, filterIndex, folder});
+    std::optional<QString> openFileName(const QString& filter, int, const QString&) override {
+        calls.push_back({filter});
+        return TakeFirst(names, std::optional<QString>());
     }
-    std::optional<QString> saveFileName(const QString& filter, int filterIndex,
-                                        const QString& folder) override {
-        return next({true, filter, filterIndex, folder});
+    std::optional<QString> saveFileName(const QString& filter, int, const QString&) override {
+        calls.push_back({filter});
+        return TakeFirst(names, std::optional<QString>());
     }
     std::vector<Call> calls;
     std::deque<std::optional<QString>> names;  // nullopt: the user cancels
-
-private:
-    std::optional<QString> next(const Call& call) {
-        calls.push_back(call);
-        if (names.empty())
-            return std::nullopt;
-        const std::optional<QString> name = names.front();
-        names.pop_front();
-        return name;
-    }
 };
 
 class FakeDesktop : public Desktop {

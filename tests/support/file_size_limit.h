@@ -20,8 +20,6 @@ public:
         setrlimit(RLIMIT_FSIZE, &saved_);
         std::signal(SIGXFSZ, savedSignal_);
     }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
 private:
     rlimit saved_{};

@@ -1,7 +1,6 @@
 #pragma once
 // For tests that drive a real job: fake tools, and the steps of a user at the console.
 
-#include "job/cconsole.h"
 #include "job/job_frame.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/tool_run.h"
@@ -11,7 +10,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWidget>
 
 namespace torvane::test {
 
@@ -38,8 +36,7 @@ public:
     void addRecordingTool(const QString& name, const QString& argsFile,
                           const QByteArray& output = {}) const {
         addTool(name, "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
-                          QFile::encodeName(argsFile) + "'\n" +
-                          (output.isEmpty() ? QByteArray() : "printf '" + output + "'\n"));
+                          QFile::encodeName(argsFile) + "'\nprintf '" + output + "'");
     }
 
 private:
@@ -63,18 +60,15 @@ inline bool WaitForIdle(JobFrame& frame) {
 
 inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
     QStringList enabled;
-    for (const QString& name : names) {
-        const QWidget* control = form.findChild<QWidget*>(name);
-        if (control && control->isEnabled())
+    for (const QString& name : names)
+        if (const auto* control = form.findChild<QWidget*>(name); control && control->isEnabled())
             enabled << name;
-    }
     return enabled;
 }
 
 inline QStringList RecordedArguments(const QString& argsFile) {
-    QStringList args = QString::fromUtf8(ReadBytes(argsFile)).split(QLatin1Char('\n'));
-    args.removeLast();  // after the last line end
-    return args;
+    const QString text = QString::fromUtf8(ReadBytes(argsFile));  // one line per argument
+    return text.isEmpty() ? QStringList() : text.chopped(1).split(QLatin1Char('\n'));
 }
 
 // Go, the key at "pause" and `answer` to the report's box; true once the job is idle again.
@@ -98,8 +92,7 @@ inline void AddRefusalColumns() {
 
 inline void RefusalRow(const char* name, const char* input, const char* output,
                        const char* message) {
-    QTest::newRow(name) << QString::fromUtf8(input) << QString::fromUtf8(output)
-                        << QString::fromUtf8(message);
+    QTest::newRow(name) << QString(input) << QString(output) << QString(message);
 }
 
 // Picks the row's names through the dialog's two browse buttons, then expects Go to be
@@ -119,8 +112,8 @@ inline void PickAndExpectRefusal(FakeServices& fakes, QWidget& dialog, JobFrame&
     fakes.boxes.shown.clear();
     go.click();
     QCOMPARE(fakes.boxes.shown.size(), 1u);
-    QCOMPARE(fakes.boxes.shown[0].title, QStringLiteral("Information"));
-    QVERIFY2(fakes.boxes.shown[0].text.startsWith(message), qPrintable(fakes.boxes.shown[0].text));
+    const MessageBoxRequest& box = fakes.boxes.shown[0];
+    QVERIFY2(box.title == "Information" && box.text.startsWith(message), qPrintable(box.text));
     QVERIFY(!frame.running() && !frame.Timer1.Enabled());
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
     QVERIFY(go.isEnabled());
