@@ -3,9 +3,7 @@
 // hold a stage open, so that the dialog can be closed in the middle of each stage.
 
 #include "additional/frm_regen.h"
-#include "shell/frm_mainmenu.h"
 #include "tests/support/job_driver.h"
-#include "tests/support/tool_run.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -37,10 +35,7 @@ private slots:
     }
 
     void cleanup() {
-        if (dialog_)
-            dialog_->close();
-        dialog_ = nullptr;
-        menu_.reset();
+        f_.reset();
         delete work_;
     }
 
@@ -93,10 +88,11 @@ private slots:
             QVERIFY(QFile::copy(Media(image), input));
         const QString bin = output == "=" ? input : output.isEmpty() ? output : out_ + "/" + output;
         const QString cue = (bin.endsWith(".bin") ? bin.chopped(4) : bin) + ".cue";
-        const Run run = go(TORVANE_APP_DIR, input, bin, {vbYes});
+        open(TORVANE_APP_DIR);
+        const Run run = go(input, bin, {vbYes});
 
-        QVERIFY(run.ended && !dialog_->status && dialog_->cmd_rip->isEnabled());
-        QVERIFY(!dialog_->isMinimized());
+        QVERIFY(run.ended && !f_->dialog.status && f_->dialog.cmd_rip->isEnabled());
+        QVERIFY(!f_->dialog.isMinimized());
         QCOMPARE(run.results, results);
         if (rippedAs.isEmpty()) {
             QCOMPARE(run.boxes, boxes.replaceInStrings("%in", input));
@@ -133,15 +129,16 @@ private slots:
     // No at the overwrite question, or a tool missing: nothing happens.
     void overwritingTheSourceNeedsAYes() {
         QVERIFY(WriteBytes(in_ + "/lost.bin", "not a disc"));
-        FakeAppFolder app;
+        const FakeAppFolder& app = open().app;
         app.addTool("vcddebug.exe", "");
         app.addTool("vcdxbuild.exe", "");
-        Run run = go(app.path(), in_ + "/lost.bin", in_ + "/x.bin");
+        Run run = go(in_ + "/lost.bin", in_ + "/x.bin");
         QCOMPARE(run.boxes,
                  QStringList{"The tool folder has no vcdxrip.exe:\r\r" + app.toolFolder()});
-        run = go(TORVANE_APP_DIR, in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
+        open(TORVANE_APP_DIR);
+        run = go(in_ + "/lost.bin", in_ + "/lost.bin", {vbNo});
         QCOMPARE(run.boxes, QStringList{"Are you sure you want to overwrite the \rexisting file?"});
-        QVERIFY(!dialog_->status && dialog_->cmd_rip->isEnabled());
+        QVERIFY(!f_->dialog.status && f_->dialog.cmd_rip->isEnabled());
         QCOMPARE(EntriesOf(in_), QStringList{"lost.bin"});
     }
 
@@ -158,7 +155,7 @@ private slots:
         QFETCH(int, stage);
         QFETCH(bool, workFolderBefore);
         // Each tool writes what the next stage needs, then the tool of `stage` holds it open.
-        FakeAppFolder app;
+        const FakeAppFolder& app = open().app;
         const QString pidFile = work_->filePath("tool.pid");
         const QByteArray hold = "echo $$ > '" + QFile::encodeName(pidFile) + "'; exec sleep 300\n";
         app.addTool("vcddebug.exe",
@@ -169,13 +166,12 @@ private slots:
         if (workFolderBefore)
             QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
         QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
-        start(app.path(), in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
+        start(in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
         const qint64 tool = ReadBytes(pidFile).trimmed().toLongLong();
-        QCOMPARE(dialog_->status->row(stage).result->text(), "Working...");
+        QCOMPARE(f_->dialog.status->row(stage).result->text(), "Working...");
 
-        QVERIFY(dialog_->close());
-        dialog_ = nullptr;
+        QVERIFY(f_->dialog.close());
         QCOMPARE(
             run_.boxes,
             QStringList{"The command is still running!  Are you\rsure that you want to quit?"});
@@ -190,46 +186,42 @@ private slots:
     }
 
 private:
-    void start(const QString& appDir, const QString& input, const QString& output,
-               std::deque<int> answers);
-    Run go(const QString& appDir, const QString& input, const QString& output,
-           std::deque<int> answers = {});
+    using Fixture = DialogFixture<frm_regen>;
+
+    // A new dialog on the tools of `appDir`, or on a tool folder the test fills.
+    Fixture& open(const QString& appDir = {}) {
+        f_.reset();
+        f_ = std::make_unique<Fixture>("regen", appDir);
+        return *f_;
+    }
+
+    // Picks the two names and presses Go; `answers` go to the boxes in turn, and each box is
+    // recorded in run_ with the stage results it saw.
+    void start(const QString& input, const QString& output, std::deque<int> answers) {
+        run_ = Run();
+        f_->fakes.boxes.answers = answers;
+        f_->fakes.boxes.onShow = [this](const MessageBoxRequest& box) {
+            run_.boxes << box.text;
+            run_.results.clear();
+            for (int stage = 1; f_->dialog.status && stage <= 3; ++stage)
+                run_.results << f_->dialog.status->row(stage).result->text();
+        };
+        f_->prepare(nullptr, {}, input, output);
+        f_->dialog.cmd_rip->click();
+    }
+
+    // As start(), then waits until the run is over.
+    Run go(const QString& input, const QString& output, std::deque<int> answers = {}) {
+        start(input, output, answers);
+        run_.ended = QTest::qWaitFor([this] { return !f_->dialog.job_running; }, kRunTimeoutMs);
+        return run_;
+    }
+
     Run run_;
     QTemporaryDir* work_ = nullptr;
     QString in_, out_;
-    std::unique_ptr<FakeServices> fakes_;
-    std::unique_ptr<frm_mainmenu> menu_;
-    frm_regen* dialog_ = nullptr;
+    std::unique_ptr<Fixture> f_;
 };
-
-// Opens the dialog on the tools of `appDir`, picks the two names and presses Go; `answers`
-// go to the boxes in turn, and each box is recorded in run_.
-void RegenDialogTest::start(const QString& appDir, const QString& input, const QString& output,
-                            std::deque<int> answers) {
-    fakes_ = std::make_unique<FakeServices>();
-    menu_ = std::make_unique<frm_mainmenu>(fakes_->services, appDir);
-    dialog_ = qobject_cast<frm_regen*>(menu_->openTool("regen"));
-    run_ = Run();
-    fakes_->boxes.answers = answers;
-    fakes_->boxes.onShow = [this](const MessageBoxRequest& box) {
-        run_.boxes << box.text;
-        run_.results.clear();
-        for (int stage = 1; dialog_->status && stage <= 3; ++stage)
-            run_.results << dialog_->status->row(stage).result->text();
-    };
-    fakes_->files.names = {input, output};
-    dialog_->cmd_input->click();
-    dialog_->cmd_output->click();
-    dialog_->cmd_rip->click();
-}
-
-// Runs the dialog as start() does and waits until the run is over.
-Run RegenDialogTest::go(const QString& appDir, const QString& input, const QString& output,
-                        std::deque<int> answers) {
-    start(appDir, input, output, answers);
-    run_.ended = QTest::qWaitFor([this] { return !dialog_->job_running; }, kRunTimeoutMs);
-    return run_;
-}
 
 QTEST_MAIN(RegenDialogTest)
 #include "regen_dialog_test.moc"

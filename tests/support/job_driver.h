@@ -1,13 +1,17 @@
 #pragma once
-// For tests that drive a real job: fake tools, and the steps of a user at the console.
+// For tests that drive a real job: fake tools, the steps of a user at the console, and a
+// tool dialog opened from the menu over fake services.
 
 #include "job/job_frame.h"
+#include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/tool_run.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QPushButton>
 #include <QDir>
-#include <QFile>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,13 +34,6 @@ public:
     // A tool that runs `body` under /bin/sh: it sees its arguments as "$@".
     void addTool(const QString& name, const QByteArray& body) const {
         QVERIFY(WriteScript(toolFolder() + name, body));
-    }
-
-    // A tool that writes its arguments, one per line, to `argsFile` and prints `output`.
-    void addRecordingTool(const QString& name, const QString& argsFile,
-                          const QByteArray& output = {}) const {
-        addTool(name, "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
-                          QFile::encodeName(argsFile) + "'\nprintf '" + output + "'");
     }
 
 private:
@@ -66,22 +63,6 @@ inline QStringList EnabledControls(const QWidget& form, const QStringList& names
     return enabled;
 }
 
-inline QStringList RecordedArguments(const QString& argsFile) {
-    const QString text = QString::fromUtf8(ReadBytes(argsFile));  // one line per argument
-    return text.isEmpty() ? QStringList() : text.chopped(1).split(QLatin1Char('\n'));
-}
-
-// Go, the key at "pause" and `answer` to the report's box; true once the job is idle again.
-inline bool RunJobToIdle(QAbstractButton& go, JobFrame& frame, FakeMessageBoxes& boxes,
-                         int answer) {
-    go.click();
-    if (!WaitForPause(frame))
-        return false;
-    boxes.answers = {answer};
-    PressKeyInConsole(frame);
-    return WaitForIdle(frame);
-}
-
 // A table of Go refusals: the names picked for input and output (a relative name lies in
 // the test's folder) and the start of the one box Go shows.
 inline void AddRefusalColumns() {
@@ -95,36 +76,92 @@ inline void RefusalRow(const char* name, const char* input, const char* output,
     QTest::newRow(name) << QString(input) << QString(output) << QString(message);
 }
 
-// Picks the row's names through the dialog's two browse buttons, then expects Go to be
-// refused by one information box: no job, no file written in `folder`, Go still usable.
-inline void PickAndExpectRefusal(FakeServices& fakes, QWidget& dialog, JobFrame& frame,
-                                 const QString& folder) {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QFETCH(QString, message);
-    const auto inFolder = [&folder](const QString& name) {
-        return name.isEmpty() || QDir::isAbsolutePath(name) ? name : folder + '/' + name;
-    };
-    fakes.files.names = {inFolder(input), inFolder(output)};
-    dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_input"))->click();
-    dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_output"))->click();
-    auto& go = *dialog.findChild<QAbstractButton*>(QStringLiteral("cmd_rip"));
-    fakes.boxes.shown.clear();
-    go.click();
-    QCOMPARE(fakes.boxes.shown.size(), 1u);
-    const MessageBoxRequest& box = fakes.boxes.shown[0];
-    QVERIFY2(box.title == "Information" && box.text.startsWith(message), qPrintable(box.text));
-    QVERIFY(!frame.running() && !frame.Timer1.Enabled());
-    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList());
-    QVERIFY(go.isEnabled());
-}
+// A tool dialog opened from a menu over fake services. With `appDir`, the application's own
+// tool folder; otherwise one whose tools a test adds. A dialog still open as the test ends
+// is closed, a job still running answered Yes.
+template <class Dialog>
+struct DialogFixture {
+    explicit DialogFixture(const char* tool, const QString& appDir = {})
+        : menu(fakes.services, appDir.isEmpty() ? app.path() : appDir),
+          dialog(*qobject_cast<Dialog*>(menu.openTool(QLatin1String(tool)))) {
+        UseBuiltInterpreter();
+    }
+    ~DialogFixture() {
+        fakes.boxes.answers.push_back(vbYes);
+        if (open)
+            open->close();
+    }
 
-// Closes a tool dialog as a test ends, answering Yes should a job still run.
-inline void CloseDialog(QWidget* dialog, FakeMessageBoxes& boxes) {
-    if (!dialog)
-        return;
-    boxes.answers.push_back(vbYes);
-    dialog->close();
+    // `tool`, if named, records its arguments (one a line) and prints `log`. The named
+    // controls are clicked before the two names are picked, as the image type decides the
+    // output's type.
+    void prepare(const char* tool, const QString& clicks, const QString& input,
+                 const QString& output, const QByteArray& log = {}) {
+        if (tool)
+            app.addTool(QLatin1String(tool), "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
+                                                 QFile::encodeName(work.filePath("args.txt")) +
+                                                 "'\nprintf '" +
+                                                 QByteArray(log).replace("\r\n", "\\r\\n") + "'");
+        for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
+            dialog.template findChild<QAbstractButton*>(name)->click();
+        fakes.files.names = {input, output};
+        dialog.cmd_input->click();
+        dialog.cmd_output->click();
+    }
+
+    // Go, the key at "pause" and `answer` to the report's box; true once idle again.
+    bool go(int answer) {
+        dialog.cmd_rip->click();
+        if (!WaitForPause(dialog.frame))
+            return false;
+        fakes.boxes.answers = {answer};
+        PressKeyInConsole(dialog.frame);
+        return WaitForIdle(dialog.frame);
+    }
+
+    QStringList arguments() const {
+        const QString text = QString::fromUtf8(ReadBytes(work.filePath("args.txt")));
+        return text.isEmpty() ? QStringList() : text.chopped(1).split(QLatin1Char('\n'));
+    }
+
+    // Picks the refusal row's names, then expects Go to be refused by one information box:
+    // no job, no file written in the test's folder, Go still usable.
+    void expectRefusal() {
+        QFETCH(QString, input);
+        QFETCH(QString, output);
+        QFETCH(QString, message);
+        const auto inFolder = [this](const QString& name) {
+            return name.isEmpty() || QDir::isAbsolutePath(name) ? name : work.filePath(name);
+        };
+        prepare(nullptr, {}, inFolder(input), inFolder(output));
+        fakes.boxes.shown.clear();
+        dialog.cmd_rip->click();
+        QCOMPARE(fakes.boxes.shown.size(), 1u);
+        const MessageBoxRequest& box = fakes.boxes.shown[0];
+        QVERIFY2(box.title == "Information" && box.text.startsWith(message), qPrintable(box.text));
+        QVERIFY(!dialog.frame.running() && !dialog.frame.Timer1.Enabled());
+        QCOMPARE(QDir(work.path()).entryList(QDir::Files), QStringList());
+        QVERIFY(dialog.cmd_rip->isEnabled());
+    }
+
+    FakeServices fakes;
+    FakeAppFolder app;
+    QTemporaryDir work;
+    frm_mainmenu menu;
+    Dialog& dialog;
+    QPointer<Dialog> open{&dialog};  // closing deletes the dialog
+};
+
+// A job's own `lines`, the command last, within the fixed ones; `wait` asks for patience.
+inline QStringList Script(const char* banner, const QString& lines, bool wait) {
+    const int command = lines.lastIndexOf('\n') + 1;
+    return (QStringLiteral("echo off\ncls\n") + QLatin1String(banner) + lines.left(command) +
+            "echo.\n" +
+            (wait ? "echo Please wait for this process to complete. It may take\n"
+                    "echo a few minutes.\n"
+                  : "") +
+            lines.mid(command) + "\necho.\necho Finished!\npause\ncls\necho ***end***")
+        .split('\n');
 }
 
 }  // namespace torvane::test

@@ -2,7 +2,7 @@
 
 #include "author/frm_vcdxbuild.h"
 #include "tests/support/file_size_limit.h"
-#include "tests/vcdxbuild/dialog_fixture.h"
+#include "tests/support/job_driver.h"
 
 using namespace torvane;
 using namespace torvane::test;

@@ -5,7 +5,7 @@
 
 #include "author/frm_vcdxbuild.h"
 #include "rip/frm_vcdxrip.h"
-#include "tests/vcdxbuild/dialog_fixture.h"
+#include "tests/support/job_driver.h"
 
 #include <QRegularExpression>
 

@@ -2,7 +2,7 @@
 
 #include "inspect/frm_vcdxminfo.h"
 #include "inspect/vcdxminfo_builder.h"
-#include "tests/vcdxbuild/dialog_fixture.h"
+#include "tests/support/job_driver.h"
 
 using namespace torvane;
 using namespace torvane::test;

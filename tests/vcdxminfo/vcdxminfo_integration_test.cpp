@@ -2,7 +2,7 @@
 // names hold blanks, shell characters and non-ASCII letters.
 
 #include "inspect/frm_vcdxminfo.h"
-#include "tests/vcdxbuild/dialog_fixture.h"
+#include "tests/support/job_driver.h"
 
 using namespace torvane;
 using namespace torvane::test;

@@ -1,7 +1,7 @@
 // The VCDXRIP dialog: its script with either separator, checks at Go, report and interlock.
 
 #include "rip/frm_vcdxrip.h"
-#include "tests/vcdxbuild/dialog_fixture.h"
+#include "tests/support/job_driver.h"
 
 using namespace torvane;
 using namespace torvane::test;
