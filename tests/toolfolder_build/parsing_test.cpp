@@ -1,9 +1,8 @@
-// The pure parts of the authoring adapters: reading vcdxbuild's --gui output, the split of
-// a build's output between log and console with its progress figures, argument files.
+// The pure parts of the authoring adapters: vcdxbuild's --gui output read and split between
+// log and console with its progress figures, and argument files.
 
 #include "tools/adapters/authoring/arg_files.h"
 #include "tools/adapters/authoring/build_log.h"
-#include "tools/adapters/authoring/gui_log.h"
 #include "tools/adapters/authoring/tool_capture.h"
 
 #include <QTest>
@@ -21,29 +20,6 @@ QByteArray B(const std::string& text) {
     return QByteArray::fromStdString(text);
 }
 
-// One event as a line of text, so that a table can hold the expected events.
-QByteArray Describe(const GuiEvent& event) {
-    switch (event.kind) {
-        case GuiEvent::Kind::Log:
-            return "log " + B(event.level) + ": " + B(event.text);
-        case GuiEvent::Kind::Progress:
-            return "progress " + B(event.operation) + " [" + B(event.id) + "] " +
-                   QByteArray::number(event.position) + "/" + QByteArray::number(event.size);
-        case GuiEvent::Kind::Plain:
-            break;
-    }
-    return "plain: " + B(event.text);
-}
-
-QByteArrayList ReadGuiOutput(const QByteArrayList& lines) {
-    QByteArrayList events;
-    GuiLogReader reader([&](const GuiEvent& event) { events << Describe(event); });
-    for (const QByteArray& line : lines)
-        reader.Feed(S(line));
-    reader.Finish();
-    return events;
-}
-
 const QByteArray kFinished =
     R"(<log level="information">finished ok, image created with 1879 sectors [00:25:04]</log>)";
 
@@ -52,43 +28,6 @@ const QByteArray kFinished =
 class AdapterParsingTest : public QObject {
     Q_OBJECT
 private slots:
-    void guiOutputIsRead_data() {
-        QTest::addColumn<QByteArrayList>("lines");
-        QTest::addColumn<QByteArrayList>("events");
-        QTest::newRow("the last line of a build")
-            << QByteArrayList{kFinished}
-            << QByteArrayList{
-                   "log information: finished ok, image created with 1879 sectors [00:25:04]"};
-        QTest::newRow("markup inside the message stays as written")
-            << QByteArrayList{R"(<log level="debug">adding a & <b> &amp; `x</log>y.mpg'</log>)"}
-            << QByteArrayList{"log debug: adding a & <b> &amp; `x</log>y.mpg'"};
-        QTest::newRow("a message over two lines is joined")
-            << QByteArrayList{R"(<log level="error">could not open `a)", R"(b.mpg'</log>)",
-                              kFinished}
-            << QByteArrayList{
-                   "log error: could not open `a\nb.mpg'",
-                   "log information: finished ok, image created with 1879 sectors [00:25:04]"};
-        QTest::newRow("an unclosed message ends at the next element")
-            << QByteArrayList{R"(<log level="error">broken)",
-                              R"(<progress operation="write" position="1" size="2" />)"}
-            << QByteArrayList{"log error: broken", "progress write [] 1/2"};
-        QTest::newRow("progress of a scan")
-            << QByteArrayList{R"(<progress operation="scan" id="sequence-00" position="6972" size="692552" />)"}
-            << QByteArrayList{"progress scan [sequence-00] 6972/692552"};
-        QTest::newRow("lines that are no element pass as they are")
-            << QByteArrayList{"Usage: vcdxbuild [OPTION...] <xml-control-file>", "",
-                              "<log level=\"debug", "<progress operation=\"scan\" id=\"s"}
-            << QByteArrayList{"plain: Usage: vcdxbuild [OPTION...] <xml-control-file>",
-                              "plain: ", "plain: <log level=\"debug",
-                              "plain: <progress operation=\"scan\" id=\"s"};
-    }
-
-    void guiOutputIsRead() {
-        QFETCH(QByteArrayList, lines);
-        QFETCH(QByteArrayList, events);
-        QCOMPARE(ReadGuiOutput(lines), events);
-    }
-
     void buildOutputIsSplitBetweenLogAndConsole_data() {
         QTest::addColumn<QByteArrayList>("lines");
         QTest::addColumn<QByteArrayList>("log");
@@ -117,6 +56,22 @@ private slots:
                               R"(<log level="Information">u</log>)"}
             << QByteArrayList{"   INFO: i", "--DEBUG: d", "++ WARN: w", "!ASSERT: a", "++ WARN: u"}
             << QByteArray("!ASSERT: a\n");
+        QTest::newRow("markup in a message stays as written; one over two lines is joined")
+            << QByteArrayList{R"(<log level="debug">adding a & <b> &amp; `x</log>y.mpg'</log>)",
+                              R"(<log level="error">could not open `a)", "b.mpg'</log>"}
+            << QByteArrayList{"--DEBUG: adding a & <b> &amp; `x</log>y.mpg'",
+                              "**ERROR: could not open `a\nb.mpg'"}
+            << QByteArray("**ERROR: could not open `a\nb.mpg'\n");
+        QTest::newRow("an unclosed message ends at the next element; other lines pass as they are")
+            << QByteArrayList{R"(<log level="error">broken)",
+                              R"(<progress operation="write" position="1" size="2" />)",
+                              "Usage: vcdxbuild [OPTION...] <xml-control-file>",
+                              "",
+                              "<log level=\"debug",
+                              "<progress operation=\"scan\" id=\"s"}
+            << QByteArrayList{"**ERROR: broken", "Usage: vcdxbuild [OPTION...] <xml-control-file>",
+                              "", "<log level=\"debug", "<progress operation=\"scan\" id=\"s"}
+            << "**ERROR: broken\n\r#write: 1/2 (50%)" + wipe + "\n";
         QTest::newRow("honest figures: no size yet, a hundredfold beyond 64 bits, past the size")
             << QByteArrayList{R"(<progress operation="write" position="7" size="0" />)",
                               R"(<progress operation="write" position="100000000000000000" )"
