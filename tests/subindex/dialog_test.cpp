@@ -1,12 +1,9 @@
 // The subindices remover: its rule on cue sheets, and its dialog from the checks to the file.
 
 #include "additional/frm_subindex.h"
-#include "shell/frm_mainmenu.h"
 #include "shell/mod_general.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/job_driver.h"
-
-#include <QPushButton>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -98,22 +95,19 @@ private slots:
         QFETCH(QList<int>, answers);
         QFETCH(QString, boxes);
         QFETCH(QByteArray, written);
-        QTemporaryDir dir;
+        DialogFixture<frm_subindex> f("subindex");
+        const QTemporaryDir& dir = f.work;
         QVERIFY(WriteBytes(dir.filePath("in.cue"), kSheet));
         const auto path = [&dir](const QString& name) {
             return name.isEmpty() ? name : dir.filePath(name);
         };
-        FakeServices fakes;
-        frm_mainmenu menu(fakes.services, dir.path());
-        auto* dialog = qobject_cast<frm_subindex*>(menu.openTool(QStringLiteral("subindex")));
-        fakes.files.names = {path(input), path(output)};
-        dialog->cmd_input->click();
-        dialog->cmd_output->click();
+        f.prepare(nullptr, {}, path(input), path(output));
+        FakeServices& fakes = f.fakes;
         fakes.boxes.answers.assign(answers.begin(), answers.end());
         fakes.desktop.viewerFound = !boxes.contains("No program");
         {
             const FileSizeLimit full(boxes.contains("File too large") ? 40 : RLIM_INFINITY);
-            dialog->cmd_rip->click();
+            f.dialog.cmd_rip->click();
         }
         QStringList shown;
         for (const MessageBoxRequest& box : fakes.boxes.shown)
@@ -127,7 +121,6 @@ private slots:
         QCOMPARE(FilesIn(dir.path()), files);
         const bool opened = written == kRewritten && answers.last() == vbYes;
         QCOMPARE(fakes.desktop.viewed, opened ? QStringList{path(output)} : QStringList());
-        QVERIFY(dialog->close());
     }
 };
 
