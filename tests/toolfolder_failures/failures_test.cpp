@@ -100,9 +100,6 @@ private slots:
         QTest::newRow("cdxa2mpeg crashes: so does its adapter")
             << "cdxa2mpeg" << QByteArray("kill -SEGV $$") << QStringList() << -1 << QByteArray();
         const QByteArray fails = "echo '   INFO: reading'\nexit 3";
-        QTest::newRow("vcdxrip fails")
-            << "vcdxrip" << fails << QStringList() << 1
-            << QFile::encodeName("vcdxrip.exe: " + kTools + "vcdxrip ended with status 3");
         QTest::newRow("vcd-info fails")
             << "vcddebug" << fails << QStringList() << 1
             << QFile::encodeName("vcddebug.exe: " + kTools + "vcd-info ended with status 3");
