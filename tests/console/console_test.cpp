@@ -145,7 +145,6 @@ private slots:
         QTest::addColumn<QKeyCombination>("key");
         QTest::addColumn<QString>("received");  // in hex
         QTest::newRow("letter") << QKeyCombination(Qt::Key_A) << "61";
-        QTest::newRow("return") << QKeyCombination(Qt::Key_Return) << "0d";
         QTest::newRow("up arrow") << QKeyCombination(Qt::Key_Up) << "1b5b41";
         QTest::newRow("control d") << (Qt::CTRL | Qt::Key_D) << "04";
     }

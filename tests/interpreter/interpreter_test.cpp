@@ -71,10 +71,6 @@ private slots:
         QFile::remove(file);
     }
 
-    void aScriptThatCannotBeReadEndsWithStatusTwo() {
-        QCOMPARE(RunProgram(QStringLiteral(TORVANE_CMD), {"no such"}, work_).exitCode, 2);
-    }
-
     void onATerminal_data();
 
     void onATerminal() {

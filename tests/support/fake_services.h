@@ -38,18 +38,15 @@ public:
 
 class FakeFileDialogs : public FileDialogs {
 public:
-    struct Call {
-        QString filter;
-    };
     std::optional<QString> openFileName(const QString& filter, int, const QString&) override {
-        calls.push_back({filter});
+        filters << filter;
         return TakeFirst(names, std::optional<QString>());
     }
     std::optional<QString> saveFileName(const QString& filter, int, const QString&) override {
-        calls.push_back({filter});
+        filters << filter;
         return TakeFirst(names, std::optional<QString>());
     }
-    std::vector<Call> calls;
+    QStringList filters;                       // of every file dialog shown
     std::deque<std::optional<QString>> names;  // nullopt: the user cancels
 };
 

@@ -9,9 +9,9 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QPushButton>
 #include <QDir>
 #include <QPointer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 

@@ -136,7 +136,6 @@ private slots:
         QTest::addColumn<QString>("adapter");
         QTest::addColumn<int>("signal");
         QTest::newRow("vcdxbuild.exe killed") << "vcdxbuild" << int(SIGKILL);
-        QTest::newRow("vcdxrip.exe, console hung up") << "vcdxrip" << int(SIGHUP);
         QTest::newRow("vcddebug.exe on 2336-byte sectors, console hung up")
             << "vcddebug" << int(SIGHUP);
     }

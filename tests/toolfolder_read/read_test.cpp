@@ -137,8 +137,6 @@ private slots:
             << kVcddebug << "damaged.bin" << QStringList{"-v"} << kWarning
             << QByteArray("ended by signal");
         const QStringList xml{"-v", "--output-file=videocd.xml"};
-        QTest::newRow("vcdxrip: 2336-byte image read as 2352")
-            << kVcdxrip << "vcd-2336.bin" << xml << QByteArray() << QByteArray();
         QTest::newRow("vcdxrip: 2352-byte image read as 2336")
             << kVcdxrip << "svcd-2352.bin" << xml + QStringList{kS2336} << QByteArray()
             << QByteArray();
