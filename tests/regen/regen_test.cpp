@@ -98,7 +98,6 @@ private slots:
                                               : BuildRegenDetectJob(in, stage == DetectSecond);
         QCOMPARE(plan.commandLine, commandLine);
         QCOMPARE(plan.jobDir, jobDir);
-        QCOMPARE(plan.scriptPath, jobDir + "run.bat");
         QCOMPARE(plan.logPath, RegenOutputDir(in) + "log.txt");
         QCOMPARE(plan.scriptLines, Script(Stage(stage)).replaceInStrings("%c", commandLine));
     }

@@ -1,8 +1,6 @@
 #pragma once
-// Running the adapters of the tool folder as a job does, on the media that the `media`
-// fixture makes once per test run (tests/fixtures/make-media-set.sh): clips, descriptors,
-// VCD and SVCD images in both sector sizes, their reference rips, and files that are no
-// image.
+// Running the tool folder's adapters as a job does, on the media that the `media` fixture
+// makes once per test run (tests/fixtures/make-media-set.sh), and the files they leave.
 
 #include <QByteArray>
 #include <QMap>
