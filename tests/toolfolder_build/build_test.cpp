@@ -109,11 +109,10 @@ private slots:
         expected << (toc ? QStringList{base + ".toc"} : QStringList{base + ".bin", base + ".cue"});
         expected.sort();
         QCOMPARE(made, expected);
-        if (project == QLatin1String("vcd.xml")) {
+        if (project == QLatin1String("vcd.xml"))
             QVERIFY2(log.contains("\r\n--DEBUG: adding sequence #0, " +
                                   in("a & <b> &amp; c</log>.mpg").toUtf8() + "\r\n"),
                      log.constData());
-        }
     }
 
     // The list as the VCDXGEN and VCDIMAGER dialogs write it into the tool folder, where the

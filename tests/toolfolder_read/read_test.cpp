@@ -118,7 +118,8 @@ private slots:
             QByteArray real = ReadBytes(Media("ref-" + mediaOf + "/ref.xml"));
             QCOMPARE(descriptor.replace(comment, ""), real.replace(real.split('\n').value(2), ""));
         }
-        const QMap<QString, QByteArray> expected = referenceMedia(mediaOf);
+        QMap<QString, QByteArray> expected = FilesIn(Media("ref-" + mediaOf));
+        expected.remove("ref.xml");
         QVERIFY(mediaOf.isEmpty() || expected.contains(QStringLiteral("avseq01.mpg")));
         QCOMPARE(made.keys(), expected.keys());
         QVERIFY(made == expected);
@@ -176,16 +177,9 @@ private:
         return result;
     }
 
-    QMap<QString, QByteArray> referenceMedia(const QString& disc) const;
     QTemporaryDir scratch_;
     QString imageFolder_, imageName_, outputFolder_, tmp_;
 };
-
-QMap<QString, QByteArray> ReadTest::referenceMedia(const QString& disc) const {
-    QMap<QString, QByteArray> media = FilesIn(Media("ref-" + disc));
-    media.remove("ref.xml");
-    return media;
-}
 
 QTEST_MAIN(ReadTest)
 #include "read_test.moc"
