@@ -21,8 +21,6 @@ namespace torvane {
 
 namespace {
 
-const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
-const QString kInformation = QStringLiteral("Information");
 const QString kConsoleTitle = QStringLiteral("Torvane -- CUE/BIN Regenerator Tool");
 const QString kWorking = QStringLiteral("Working...");
 const QString kSuccess = QStringLiteral("Success!");

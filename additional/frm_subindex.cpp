@@ -18,7 +18,6 @@ namespace torvane {
 namespace {
 
 const QString kCueFilter = QStringLiteral("All Files (*.*)|*.*|CUE Files (*.cue)|*.cue");
-const QString kInformation = QStringLiteral("Information");
 
 }  // namespace
 

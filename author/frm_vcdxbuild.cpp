@@ -22,10 +22,7 @@
 namespace torvane {
 
 namespace {
-const QString kInputFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
-const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
 const QString kTocFilter = QStringLiteral("All Files (*.*)|*.*|TOC Files (*.toc)|*.toc");
-const QString kInformation = QStringLiteral("Information");
 }  // namespace
 
 frm_vcdxbuild::frm_vcdxbuild(frm_mainmenu& menu, Services& services)
@@ -86,7 +83,7 @@ void frm_vcdxbuild::buildControls() {
 
 void frm_vcdxbuild::connectControls() {
     connect(cmd_input, &QPushButton::clicked, this,
-            [this] { Browse(services_.files, BrowseKind::Open, kInputFilter, *txt_input); });
+            [this] { Browse(services_.files, BrowseKind::Open, kXmlFilter, *txt_input); });
     connect(cmd_output, &QPushButton::clicked, this, &frm_vcdxbuild::cmd_output_Click);
     connect(opt_cuebin, &QRadioButton::clicked, this, &frm_vcdxbuild::opt_cuebin_Click);
     connect(opt_toc, &QRadioButton::clicked, this, &frm_vcdxbuild::opt_toc_Click);

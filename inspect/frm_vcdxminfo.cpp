@@ -22,7 +22,6 @@ namespace {
 const QString kInputFilter = QStringLiteral(
     "All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg, *.mpv, *.m2v, *.mp2)|"
     "*.mpg;*.mpeg;*.mpv;*.m2v;*.mp2");
-const QString kOutputFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
 }  // namespace
 
 frm_vcdxminfo::frm_vcdxminfo(frm_mainmenu& menu, Services& services)
@@ -81,7 +80,7 @@ void frm_vcdxminfo::buildControls() {
     connect(cmd_input, &QPushButton::clicked, this,
             [this] { Browse(services_.files, BrowseKind::Open, kInputFilter, *txt_input); });
     connect(cmd_output, &QPushButton::clicked, this,
-            [this] { Browse(services_.files, BrowseKind::Save, kOutputFilter, *txt_output); });
+            [this] { Browse(services_.files, BrowseKind::Save, kXmlFilter, *txt_output); });
     connect(chk_aps, &QCheckBox::clicked, this, &frm_vcdxminfo::chk_aps_Click);
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxminfo::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);

@@ -68,7 +68,7 @@ bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
     }
     if (message.isEmpty())
         return true;
-    InformationBox(boxes, QStringLiteral("Information"), message);
+    InformationBox(boxes, kInformation, message);
     return false;
 }
 
@@ -80,7 +80,7 @@ void OpenInViewer(Services& services, const QString& path) {
     if (services.desktop.openInViewer(path))
         return;
     InformationBox(
-        services.boxes, QStringLiteral("Information"),
+        services.boxes, kInformation,
         QStringLiteral("No program on this desktop opens the file:\r\r") + ShownPath(path));
 }
 

@@ -14,6 +14,11 @@ class FileDialogs;
 
 enum class BrowseKind { Open, Save };
 
+// The title of the forms' information boxes, and the file filters more than one form shows.
+inline const QString kInformation = QStringLiteral("Information");
+inline const QString kXmlFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
+inline const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
+
 // The browse handler: a file dialog with `filter` on its second entry, opened in
 // BrowseStartFolder; the chosen name goes unchanged into `target`; Cancel changes nothing.
 // Where a file dialog opens: the folder of the path already in its box, else the folder

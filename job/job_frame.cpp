@@ -1,5 +1,6 @@
 #include "job/job_frame.h"
 
+#include "job/form_support.h"
 #include "job/job_start.h"
 
 #include <QDir>
@@ -41,7 +42,7 @@ bool JobFrame::Start(const JobPlan& plan, const QStringList& extraFiles) {
     // The job folder was checked at Go; a job that then fails shows in its log.
     QDir::setCurrent(plan.jobDir);
     if (const QString failure = WriteJobScript(plan); !failure.isEmpty()) {
-        InformationBox(services_.boxes, QStringLiteral("Information"), failure);
+        InformationBox(services_.boxes, kInformation, failure);
         abandonJob();
         return false;
     }
@@ -66,7 +67,7 @@ void JobFrame::startConsole() {
     } catch (const ConsoleError& error) {
         // No console, no job: say why and come back to Idle.
         Timer1.setEnabled(false);
-        InformationBox(services_.boxes, QStringLiteral("Information"), error.description);
+        InformationBox(services_.boxes, kInformation, error.description);
         abandonJob();
         return;
     }

@@ -1,5 +1,6 @@
 #include "job/job_start.h"
 
+#include "job/form_support.h"
 #include "job/job_paths.h"
 #include "job/services.h"
 #include "platform/replace_file.h"
@@ -32,7 +33,7 @@ std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& ti
 }
 
 bool ConfirmQuitWhileRunning(MessageBoxes& boxes) {
-    return ConfirmationBox(boxes, QStringLiteral("Information"),
+    return ConfirmationBox(boxes, kInformation,
                            QStringLiteral("The command is still running!  Are you") +
                                QLatin1Char('\r') + QStringLiteral("sure that you want to quit?")) !=
            vbNo;

@@ -21,8 +21,6 @@ namespace torvane {
 namespace {
 const QString kInputFilter =
     QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin|NRG Files (*.nrg)|*.nrg");
-const QString kOutputFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
-const QString kInformation = QStringLiteral("Information");
 // A fixed single border, without minimise and maximise buttons.
 constexpr Qt::WindowFlags kFixedDialogFlags =
     Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
@@ -87,7 +85,7 @@ void frm_vcdxrip::connectControls() {
     connect(cmd_input, &QPushButton::clicked, this,
             [this] { Browse(services_.files, BrowseKind::Open, kInputFilter, *txt_input); });
     connect(cmd_output, &QPushButton::clicked, this,
-            [this] { Browse(services_.files, BrowseKind::Save, kOutputFilter, *txt_output); });
+            [this] { Browse(services_.files, BrowseKind::Save, kXmlFilter, *txt_output); });
     connect(chk_norip, &QCheckBox::clicked, this, &frm_vcdxrip::chk_norip_Click);
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxrip::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
