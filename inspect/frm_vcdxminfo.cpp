@@ -1,6 +1,7 @@
 #include "inspect/frm_vcdxminfo.h"
 
 #include "about/mod_about.h"
+#include "inspect/report_question.h"
 #include "inspect/vcdxminfo_builder.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
@@ -109,8 +110,8 @@ void frm_vcdxminfo::cmd_rip_Click() {
     in.sep = QChar(kPathSeparator);
 
     const JobPlan plan = BuildVcdxminfoJob(in);
-    if (!GoMayProceed(services_.boxes, VcdxminfoValidation(in), {in.input, in.output},
-                      {plan.jobDir}))
+    if (!GoMayProceed(services_.boxes, OutputThenInputValidation(in.input, in.output),
+                      {in.input, in.output}, {plan.jobDir}))
         return;
     setControlsEnabled(false);
     frame.Start(plan);
@@ -126,9 +127,7 @@ void frm_vcdxminfo::setControlsEnabled(bool enabled) {
 }
 
 void frm_vcdxminfo::report() {
-    if (QuestionBox(services_.boxes, QStringLiteral("Question"),
-                    VcdxminfoReportText(txt_output->text())) == vbYes)
-        OpenInViewer(services_, txt_output->text());
+    AskToOpenReport(services_, QStringLiteral("XML"), txt_output->text());
 }
 
 void frm_vcdxminfo::closeEvent(QCloseEvent* event) {

@@ -6,16 +6,7 @@ namespace torvane {
 
 namespace {
 const QChar Quote = QLatin1Char('"');
-const QChar CR = QLatin1Char('\r');
 }  // namespace
-
-QString VcdxminfoValidation(const VcdxminfoInputs& in) {
-    if (in.output.isEmpty())
-        return QStringLiteral("You have not set an output file!");
-    if (in.input.isEmpty())
-        return QStringLiteral("You have not loaded an input XML file!");
-    return {};
-}
 
 QString VcdxminfoSwitches(const VcdxminfoInputs& in) {
     QString switches;
@@ -49,12 +40,6 @@ JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in) {
                      << QStringLiteral("echo.") << plan.commandLine;
     plan.scriptLines << ScriptClosing();
     return plan;
-}
-
-QString VcdxminfoReportText(const QString& output) {
-    return QStringLiteral("Finished!") + CR + CR +
-           QStringLiteral("Do you want to open the XML file now?") + QStringLiteral("\r\n\r\n") +
-           output;
 }
 
 }  // namespace torvane

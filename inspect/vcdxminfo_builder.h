@@ -1,6 +1,6 @@
 #pragma once
-// What the VCDXMINFO dialog turns its inputs into: the validation message, the switches,
-// the command line, the job script, and the question at the end of the job.
+// What the VCDXMINFO dialog turns its inputs into: the switches, the command line and the
+// job script. Its checks at Go and its question at the end are the report dialogs' own.
 
 #include "job/job_plan.h"
 
@@ -19,13 +19,9 @@ struct VcdxminfoInputs {
     QChar sep;
 };
 
-// The first failing check's message, or empty when Go may go on.
-QString VcdxminfoValidation(const VcdxminfoInputs& in);
 // "-i", " -a", " --relaxed-aps", as ticked; relaxed only counts with APS data on.
 QString VcdxminfoSwitches(const VcdxminfoInputs& in);
 // Job in the output folder, no log.
 JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in);
-// The question of the end-of-job step.
-QString VcdxminfoReportText(const QString& output);
 
 }  // namespace torvane

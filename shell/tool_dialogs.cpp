@@ -3,6 +3,7 @@
 #include "additional/frm_regen.h"
 #include "additional/frm_subindex.h"
 #include "author/frm_vcdxbuild.h"
+#include "inspect/frm_vcddebug.h"
 #include "inspect/frm_vcdxminfo.h"
 #include "rip/frm_vcdxrip.h"
 #include "shell/mod_mainmenu.h"
@@ -24,6 +25,7 @@ ToolDialogFactory Factory() {
 const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
     static const std::map<QString, ToolDialogFactory> factories = {
         {QStringLiteral("vcdxminfo"), Factory<frm_vcdxminfo>()},
+        {QStringLiteral("vcddebug"), Factory<frm_vcddebug>()},
         {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},

@@ -22,8 +22,8 @@ private slots:
         QTest::newRow("vcdxminfo") << int(Qt::Key_I) << "VCDXMINFO - Torvane";
         QTest::newRow("subindex") << int(Qt::Key_S) << "Subindicies Remover - Torvane";
         QTest::newRow("regen") << int(Qt::Key_N) << "CUE/BIN Regenerator - Torvane";
-        for (const char* key :
-             {"vcdimager", "vcdxgen", "cdxa2mpeg", "vcddebug", "lkvcdxbuild", "lkvcdxrip"})
+        QTest::newRow("vcddebug") << int(Qt::Key_D) << "VCDDEBUG - Torvane";
+        for (const char* key : {"vcdimager", "vcdxgen", "cdxa2mpeg", "lkvcdxbuild", "lkvcdxrip"})
             QTest::newRow(key) << 0 << "";  // no dialog yet: the button is disabled
     }
 

@@ -154,15 +154,12 @@ private slots:
     }
     void init() {
         UseBuiltInterpreter();
-        work_ = new QTemporaryDir;
+        work_ = std::make_unique<QTemporaryDir>();
         in_ = FreshFolder(work_->path(), "dl & co; $HOME |<x>");
         out_ = FreshFolder(work_->path(), "new 'image' ü");
     }
 
-    void cleanup() {
-        f_.reset();
-        delete work_;
-    }
+    void cleanup() { f_.reset(); }
 
     void aRunEndsAsExpected_data() {
         QTest::addColumn<QString>("image");   // copied as the lone BIN; none: none picked
@@ -330,7 +327,7 @@ private:
     }
 
     Run run_;
-    QTemporaryDir* work_ = nullptr;
+    std::unique_ptr<QTemporaryDir> work_;  // outlives the dialog of each test
     QString in_, out_;
     std::unique_ptr<Fixture> f_;
 };

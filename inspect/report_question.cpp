@@ -1,0 +1,28 @@
+#include "inspect/report_question.h"
+
+#include "job/form_support.h"
+#include "job/services.h"
+
+namespace torvane {
+
+QString OutputThenInputValidation(const QString& input, const QString& output) {
+    if (output.isEmpty())
+        return QStringLiteral("You have not set an output file!");
+    if (input.isEmpty())
+        return QStringLiteral("You have not loaded an input XML file!");
+    return {};
+}
+
+QString OpenReportQuestion(const QString& fileKind, const QString& output) {
+    return QStringLiteral("Finished!\r\rDo you want to open the %1 file now?\r\n\r\n")
+               .arg(fileKind) +
+           output;
+}
+
+void AskToOpenReport(Services& services, const QString& fileKind, const QString& output) {
+    if (QuestionBox(services.boxes, QStringLiteral("Question"),
+                    OpenReportQuestion(fileKind, output)) == vbYes)
+        OpenInViewer(services, output);
+}
+
+}  // namespace torvane

@@ -1,0 +1,20 @@
+#pragma once
+// What the two report dialogs, VCDXMINFO and VCDDEBUG, share: the checks at Go, and the
+// question at the end of the job whether to open the report just written.
+
+#include <QString>
+
+namespace torvane {
+
+struct Services;
+
+// The first failing check's message, or empty when Go may go on: the output first.
+QString OutputThenInputValidation(const QString& input, const QString& output);
+
+// "Finished!", then whether to open the `fileKind` ("XML", "TXT") file now, and its path.
+QString OpenReportQuestion(const QString& fileKind, const QString& output);
+
+// Asks that question and opens the report in the desktop's viewer on Yes.
+void AskToOpenReport(Services& services, const QString& fileKind, const QString& output);
+
+}  // namespace torvane
