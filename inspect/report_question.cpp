@@ -13,15 +13,10 @@ QString OutputThenInputValidation(const QString& input, const QString& output) {
     return {};
 }
 
-QString OpenReportQuestion(const QString& fileKind, const QString& output) {
-    return QStringLiteral("Finished!\r\rDo you want to open the %1 file now?\r\n\r\n")
-               .arg(fileKind) +
-           output;
-}
-
 void AskToOpenReport(Services& services, const QString& fileKind, const QString& output) {
-    if (QuestionBox(services.boxes, QStringLiteral("Question"),
-                    OpenReportQuestion(fileKind, output)) == vbYes)
+    const QString question =
+        QStringLiteral("Finished!\r\rDo you want to open the %1 file now?\r\n\r\n").arg(fileKind);
+    if (QuestionBox(services.boxes, QStringLiteral("Question"), question + output) == vbYes)
         OpenInViewer(services, output);
 }
 

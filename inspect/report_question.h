@@ -11,10 +11,8 @@ struct Services;
 // The first failing check's message, or empty when Go may go on: the output first.
 QString OutputThenInputValidation(const QString& input, const QString& output);
 
-// "Finished!", then whether to open the `fileKind` ("XML", "TXT") file now, and its path.
-QString OpenReportQuestion(const QString& fileKind, const QString& output);
-
-// Asks that question and opens the report in the desktop's viewer on Yes.
+// Asks whether to open the `fileKind` ("XML", "TXT") report at `output` now, and opens it
+// in the desktop's viewer on Yes.
 void AskToOpenReport(Services& services, const QString& fileKind, const QString& output);
 
 }  // namespace torvane

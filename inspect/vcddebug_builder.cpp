@@ -6,12 +6,14 @@ namespace torvane {
 
 namespace {
 const QChar Quote = QLatin1Char('"');
-}  // namespace
 
+// "--sector-2336" if ticked, then " -v" or " -q".
 QString VcddebugSwitches(const VcddebugInputs& in) {
     return (in.sector2336 ? QStringLiteral("--sector-2336") : QString()) +
            (in.verbose ? QStringLiteral(" -v") : QStringLiteral(" -q"));
 }
+
+}  // namespace
 
 JobPlan BuildVcddebugJob(const VcddebugInputs& in) {
     const OutputSplit split = SplitOutputPath(in.output, in.sep);

@@ -18,8 +18,6 @@ struct VcddebugInputs {
     QChar sep;
 };
 
-// "--sector-2336" if ticked, then " -v" or " -q".
-QString VcddebugSwitches(const VcddebugInputs& in);
 // Job in the output folder, no log: the tool's standard output is the report.
 JobPlan BuildVcddebugJob(const VcddebugInputs& in);
 
