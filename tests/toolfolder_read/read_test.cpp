@@ -134,6 +134,8 @@ private slots:
         const QByteArray status = "ended with status";
         QTest::newRow("vcddebug: 2336-byte image read as 2352")
             << kVcddebug << "vcd-2336.bin" << QStringList{"-q"} << kWarning << status;
+        QTest::newRow("vcddebug: random bytes as 2336, no multiple of it")
+            << kVcddebug << "random.bin" << QStringList{kS2336, "-v"} << kWarning << status;
         QTest::newRow("vcddebug: damaged INFO.VCD, vcd-info crashes")
             << kVcddebug << "damaged.bin" << QStringList{"-v"} << kWarning
             << QByteArray("ended by signal");

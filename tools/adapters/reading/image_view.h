@@ -4,10 +4,8 @@
 // its own into its private folder, with the tracks that the disc's ENTRIES file gives,
 // and never writes beside the user's file; the BIN is reached through a link there.
 //
-// An image of 2336-byte sectors is expanded into its 2352-byte form first. That copy is
-// as large as the image, so it has no name: it is unlinked as soon as it is made and
-// reached through the adapter's open descriptor, and goes with the adapter however the
-// adapter ends.
+// An image of 2336-byte sectors is shown to the tool in its 2352-byte form by the reading
+// helper, as the tool reads it (mode2_view.cpp): nothing as large as the image is written.
 
 #include <optional>
 #include <string>
@@ -22,9 +20,10 @@ struct ImageView {
     std::vector<std::string> standIns;
 };
 
-// The view of `binFile` read in sectors of 2336 bytes (`sector2336`) or of 2352. Needs
-// the private folder. Nullopt, with what went wrong in `error`, when the file cannot be
-// read or its 2352-byte form cannot be written.
+// The view of `binFile` read in sectors of 2336 bytes (`sector2336`) or of 2352; for
+// 2336, names the file to the reading helper through the environment that the tool will
+// inherit. Needs the private folder. Nullopt, with what went wrong in `error`, when the
+// file cannot be read or the cue sheet cannot be written.
 std::optional<ImageView> PresentBinImage(const std::string& binFile, bool sector2336,
                                          std::string* error);
 

@@ -16,7 +16,7 @@ namespace reading {
 
 namespace {
 
-constexpr std::array<const char*, 4> kEntries = {kCueEntry, kBinEntry, kDataEntry, kPreloadEntry};
+constexpr std::array<const char*, 3> kEntries = {kCueEntry, kBinEntry, kPreloadEntry};
 constexpr std::array<int, 5> kEndingSignals = {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGPIPE};
 
 // Laid out before any signal can come, so that the handler only calls unlink and rmdir.

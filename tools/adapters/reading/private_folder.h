@@ -2,7 +2,7 @@
 // The adapter's private temporary folder. It is made under $TMPDIR (or /tmp), holds only
 // entries of the fixed names below, and goes on every way out of the adapter: a normal
 // return, Fail(), and the signals that end it when its console is dropped (SIGHUP, then
-// SIGTERM or SIGKILL; SIGKILL leaves the folder, but nothing large, see image_view.h).
+// SIGTERM or SIGKILL; SIGKILL leaves the folder, which holds nothing large).
 // The running tool gets the same signal, so that nothing of the job is left running.
 
 #include <sys/types.h>
@@ -13,8 +13,7 @@ namespace reading {
 // The names that may stand in the folder.
 constexpr const char* kCueEntry = "image.cue";
 constexpr const char* kBinEntry = "image.bin";
-constexpr const char* kDataEntry = "image.data";
-constexpr const char* kPreloadEntry = "readlog.so";
+constexpr const char* kPreloadEntry = "helper.so";
 
 // Makes the folder and arranges its removal; fails the adapter when it cannot be made.
 // Called once, before anything else is written.

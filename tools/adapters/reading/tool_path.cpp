@@ -11,7 +11,7 @@ namespace reading {
 
 namespace {
 
-constexpr char kHelperName[] = "torvane-readlog.so";
+constexpr char kHelperName[] = "torvane-reading.so";
 
 std::string OwnFolder() {
     char path[PATH_MAX];
@@ -30,7 +30,7 @@ void RequireTool(const std::string& adapterName, const std::string& tool) {
                                        "); it comes with the vcdimager package");
 }
 
-std::string LinkLogLevelHelper(const std::string& adapterName) {
+std::string LinkReadingHelper(const std::string& adapterName) {
     const std::string helper = OwnFolder() + "/" + kHelperName;
     if (access(helper.c_str(), R_OK) != 0)
         adapter::Fail(adapterName,

@@ -1,5 +1,5 @@
 #pragma once
-// Where a reading adapter finds Debian's tool, and its log-level helper.
+// Where a reading adapter finds Debian's tool, and the helper it preloads into it.
 
 #include "tools/adapters/common/adapter_support.h"
 
@@ -19,9 +19,9 @@ inline std::string ReadingToolPath(const std::string& name) {
 // Fails the adapter unless `tool` can be run.
 void RequireTool(const std::string& adapterName, const std::string& tool);
 
-// Links the log-level helper, which lies beside the adapter, into the private folder,
-// whose path the dynamic loader can take (see private_folder.cpp); returns the link.
-// Fails the adapter when the helper is missing.
-std::string LinkLogLevelHelper(const std::string& adapterName);
+// Links the reading helper (mode2_view.cpp, log_level.cpp), which lies beside the adapter, into the
+// private folder, whose path the dynamic loader can take (see private_folder.cpp); returns the
+// link. Fails the adapter when the helper is missing.
+std::string LinkReadingHelper(const std::string& adapterName);
 
 }  // namespace reading

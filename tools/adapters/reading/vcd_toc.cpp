@@ -25,10 +25,6 @@ int FromBcd(unsigned char byte) {
     return high > 9 || low > 9 ? -1 : high * 10 + low;
 }
 
-unsigned char ToBcd(std::uint32_t value) {
-    return static_cast<unsigned char>(((value / 10) << 4) | (value % 10));
-}
-
 bool IsEntriesId(const unsigned char* data) {
     return std::memcmp(data, "ENTRYVCD", kIdSize) == 0 ||
            std::memcmp(data, "ENTRYSVD", kIdSize) == 0;
@@ -90,17 +86,6 @@ std::string CueSheet(const std::string& binName, const std::vector<std::uint32_t
         cue += lines;
     }
     return cue;
-}
-
-void WriteSyncAndHeader(std::uint32_t lsn, unsigned char* out) {
-    out[0] = 0x00;
-    std::memset(out + 1, 0xff, 10);
-    out[11] = 0x00;
-    const std::uint32_t frames = lsn + kLeadInFrames;
-    out[12] = ToBcd(frames / (60 * kFramesPerSecond));
-    out[13] = ToBcd(frames / kFramesPerSecond % 60);
-    out[14] = ToBcd(frames % kFramesPerSecond);
-    out[15] = 0x02;  // Mode 2
 }
 
 }  // namespace reading

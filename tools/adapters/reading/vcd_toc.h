@@ -1,7 +1,8 @@
 #pragma once
 // What the reading adapters need to know about a raw (S)VCD image to hand it to libcdio:
-// where its MPEG tracks start, the cue sheet that says so, and the 16 bytes that a
-// 2336-byte Mode 2 sector lacks against a 2352-byte one.
+// where its MPEG tracks start, and the cue sheet that says so.
+
+#include "tools/adapters/reading/mode2_sector.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,9 +11,6 @@
 
 namespace reading {
 
-constexpr std::size_t kRawSectorSize = 2352;    // sync, header, subheader, data, EDC/ECC
-constexpr std::size_t kMode2SectorSize = 2336;  // the same without sync and header
-constexpr std::size_t kSyncHeaderSize = kRawSectorSize - kMode2SectorSize;
 constexpr std::size_t kSubheaderSize = 8;
 constexpr std::size_t kUserDataSize = 2048;
 // ENTRIES.VCD (ENTRIES.SVD on an SVCD) lies at this fixed sector on every (S)VCD.
@@ -28,9 +26,5 @@ std::vector<std::uint32_t> SequenceTrackStarts(const unsigned char* userData, st
 // A cue sheet for one BIN file of 2352-byte Mode 2 sectors: track 1 at sector 0, then a
 // track at each of `trackStarts`.
 std::string CueSheet(const std::string& binName, const std::vector<std::uint32_t>& trackStarts);
-
-// Writes the sync pattern and the Mode 2 header of sector `lsn` (its address counts the
-// two-second lead-in, as on a disc) into out[0..15].
-void WriteSyncAndHeader(std::uint32_t lsn, unsigned char* out);
 
 }  // namespace reading

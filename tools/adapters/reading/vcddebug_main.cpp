@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
     const std::string tool = ReadingToolPath("vcd-info");
     RequireTool(kName, tool);
     MakePrivateFolder(kName);
-    const std::string helper = LinkLogLevelHelper(kName);
+    const std::string helper = LinkReadingHelper(kName);
 
     std::string error;
     const auto view = PresentBinImage(args.binFile, args.sector2336, &error);

@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     const std::string tool = ReadingToolPath("vcdxrip");
     RequireTool(kName, tool);
     MakePrivateFolder(kName);
-    const std::string helper = LinkLogLevelHelper(kName);
+    const std::string helper = LinkReadingHelper(kName);
 
     std::vector<std::string> toolArgs = args.switches;
     if (!args.outputFile.empty())
