@@ -1,6 +1,7 @@
 #pragma once
-// What the two report dialogs, VCDXMINFO and VCDDEBUG, share: the checks at Go, and the
-// question at the end of the job whether to open the report just written.
+// What the two report dialogs, VCDXMINFO and VCDDEBUG, share: the checks at Go (which
+// CDXA2MPEG makes too), and the question at the end of the job whether to open the report
+// just written.
 
 #include <QString>
 

@@ -3,6 +3,7 @@
 #include "additional/frm_regen.h"
 #include "additional/frm_subindex.h"
 #include "author/frm_vcdxbuild.h"
+#include "inspect/frm_cdxa2mpeg.h"
 #include "inspect/frm_vcddebug.h"
 #include "inspect/frm_vcdxminfo.h"
 #include "rip/frm_vcdxrip.h"
@@ -26,6 +27,7 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
     static const std::map<QString, ToolDialogFactory> factories = {
         {QStringLiteral("vcdxminfo"), Factory<frm_vcdxminfo>()},
         {QStringLiteral("vcddebug"), Factory<frm_vcddebug>()},
+        {QStringLiteral("cdxa2mpeg"), Factory<frm_cdxa2mpeg>()},
         {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},

@@ -23,7 +23,8 @@ private slots:
         QTest::newRow("subindex") << int(Qt::Key_S) << "Subindicies Remover - Torvane";
         QTest::newRow("regen") << int(Qt::Key_N) << "CUE/BIN Regenerator - Torvane";
         QTest::newRow("vcddebug") << int(Qt::Key_D) << "VCDDEBUG - Torvane";
-        for (const char* key : {"vcdimager", "vcdxgen", "cdxa2mpeg", "lkvcdxbuild", "lkvcdxrip"})
+        QTest::newRow("cdxa2mpeg") << int(Qt::Key_C) << "CDXA2MPEG - Torvane";
+        for (const char* key : {"vcdimager", "vcdxgen", "lkvcdxbuild", "lkvcdxrip"})
             QTest::newRow(key) << 0 << "";  // no dialog yet: the button is disabled
     }
 

@@ -97,8 +97,14 @@ private slots:
             << "vcdimager"
             << "echo '" + finished + "'\necho '" + finished + "'\nkill -SEGV $$" << QStringList()
             << 1 << QByteArray("vcdimager.exe: vcdimager was ended by signal 11");
-        QTest::newRow("cdxa2mpeg crashes: so does its adapter")
-            << "cdxa2mpeg" << QByteArray("kill -SEGV $$") << QStringList() << -1 << QByteArray();
+        QTest::newRow("cdxa2mpeg writes, then crashes: the output is left as it was")
+            << "cdxa2mpeg" << QByteArray("echo partial > \"$2\"; kill -SEGV $$") << QStringList()
+            << 1
+            << QFile::encodeName("cdxa2mpeg.exe: " + kTools +
+                                 "cdxa2mpeg was ended by signal 11 (Segmentation fault); ");
+        QTest::newRow("cdxa2mpeg finds no MPEG stream: nothing is written")
+            << "cdxa2mpeg" << QByteArray("echo '++ WARN: unknown chunk id'") << QStringList() << 1
+            << QByteArray("cdxa2mpeg.exe: nothing was written; ");
         const QByteArray fails = "echo '   INFO: reading'\nexit 3";
         QTest::newRow("vcd-info fails")
             << "vcddebug" << fails << QStringList() << 1
@@ -130,6 +136,7 @@ private slots:
         if (tool.startsWith("echo '   INFO"))
             QVERIFY(log.startsWith("   INFO: reading\r\n"));
         QCOMPARE(EntriesOf(job_->path()), inputs_);
+        QCOMPARE(ReadBytes(job_->filePath("clip.mpg")), QByteArray());  // an output of some
     }
 
     void aToolEndsWithItsAdapter_data() {

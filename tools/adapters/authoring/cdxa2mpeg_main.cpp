@@ -1,9 +1,46 @@
-// cdxa2mpeg.exe: Debian's cdxa2mpeg already takes the input and the output path as its two
-// arguments, so the name runs it unchanged.
+// cdxa2mpeg.exe: Debian's cdxa2mpeg, which takes the input and the output path as its two
+// arguments, writing into a stand-in for the output (output_stand_in.h). The tool opens
+// its output before it reads its input, and on a file that is no RIFF/CDXA file it writes
+// nothing and still ends with status 0: the output is replaced only by an MPEG stream.
 
+#include "tools/adapters/authoring/output_stand_in.h"
 #include "tools/adapters/authoring/tool_path.h"
 
+#include <csignal>
+#include <cstring>
+
+namespace {
+
+constexpr char kName[] = "cdxa2mpeg.exe";
+
+std::string DescribeStatus(int status) {
+    if (status > 128)
+        return "was ended by signal " + std::to_string(status - 128) + " (" +
+               strsignal(status - 128) + ")";
+    return "ended with status " + std::to_string(status);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-    authoring::ExecTool("cdxa2mpeg.exe", authoring::AuthoringToolPath("cdxa2mpeg"),
-                        authoring::Arguments(argc, argv));
+    const std::vector<std::string> args = authoring::Arguments(argc, argv);
+    if (args.size() != 2 || args[0].empty() || args[1].empty())
+        adapter::Fail(kName, "give the input and the output path");
+    const std::string& output = args[1];
+    const std::string tool = authoring::AuthoringToolPath("cdxa2mpeg");
+    authoring::RequireTool(kName, tool);
+
+    std::string error;
+    const std::string standIn = authoring::MakeOutputStandIn(output, &error);
+    if (standIn.empty())
+        adapter::Fail(kName, error);
+    const int status = adapter::RunTool(tool, {args[0], standIn});
+    if (status != 0) {
+        authoring::DropOutputStandIn();
+        adapter::Fail(kName,
+                      tool + " " + DescribeStatus(status) + "; " + output + " is left as it was");
+    }
+    if (!authoring::ReplaceOutputByStandIn(output, &error))
+        adapter::Fail(kName, error + " (is " + args[0] + " a file copied off a disc?)");
+    return 0;
 }

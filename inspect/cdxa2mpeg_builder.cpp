@@ -1,0 +1,40 @@
+#include "inspect/cdxa2mpeg_builder.h"
+
+#include "job/job_paths.h"
+
+namespace torvane {
+
+namespace {
+const QChar Quote = QLatin1Char('"');
+}  // namespace
+
+JobPlan BuildCdxa2mpegJob(const Cdxa2mpegInputs& in) {
+    const OutputSplit split = SplitOutputPath(in.output, in.sep);
+
+    JobPlan plan;
+    plan.commandLine = Quote + in.toolFolder + QStringLiteral("cdxa2mpeg.exe") + Quote +
+                       QLatin1Char(' ') + Quote + in.input + Quote + QLatin1Char(' ') + Quote +
+                       in.output + Quote;
+    plan.jobDir = split.output_dir;
+    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
+    plan.scriptLines =
+        ScriptOpening(QStringLiteral("CDXA2MPEG Tool - Batch File (quelmora productions)"));
+    plan.scriptLines << QStringLiteral("echo Input S/VCD File:  ") + in.input
+                     << QStringLiteral("echo Output MPEG File:  ") + split.fileName
+                     << QStringLiteral("echo.") << plan.commandLine;
+    plan.scriptLines << ScriptClosing();
+    return plan;
+}
+
+QString Cdxa2mpegReport(const QString& output, bool written) {
+    if (written)
+        return QStringLiteral("Finished!\r\rConverted file written in:\r") + output;
+    // The tool leaves the output as it was when the input holds no MPEG stream.
+    return QStringLiteral("Finished!\r\rNo converted file was written; this file is as it was:\r") +
+           output +
+           QStringLiteral(
+               "\r\rThe console showed why: is the input a media file copied off a "
+               "S/VCD?");
+}
+
+}  // namespace torvane
