@@ -33,8 +33,7 @@ QStringList PhaseScript(int phase, const QString& commandLine) {
     QStringList lines = ScriptOpening(
         QStringLiteral("CUE/BIN Regenerator - Phase %1 (quelmora productions)").arg(phase));
     lines << QStringLiteral("echo.")
-          << QStringLiteral("echo Please wait for this process to complete. It may take")
-          << QStringLiteral("echo a few minutes.") << commandLine << QStringLiteral("echo.")
+          << PleaseWaitLines() << commandLine << QStringLiteral("echo.")
           << QStringLiteral("echo Finished!") << QStringLiteral("cls")
           << QStringLiteral("echo ***end***");
     return lines;

@@ -81,9 +81,7 @@ VcdxbuildJob BuildVcdxbuildJob(const VcdxbuildInputs& in) {
                      << QStringLiteral("echo Output image:     ") + output.fileName
                      << QStringLiteral("echo Option switches:  ") + sw.sector +
                             QStringLiteral(" -v")
-                     << QStringLiteral("echo.")
-                     << QStringLiteral("echo Please wait for this process to complete. It may take")
-                     << QStringLiteral("echo a few minutes.") << plan.commandLine;
+                     << QStringLiteral("echo.") << PleaseWaitLines() << plan.commandLine;
     plan.scriptLines << ScriptClosing();
     return job;
 }
@@ -103,9 +101,7 @@ VcdxbuildReport BuildVcdxbuildReport(const std::optional<QByteArray>& log) {
     }
     // The tool's own figures from the end of its last line, printed back unchanged.
     const ImageSize size = SizeAtLineEnd(LastLine(*log));
-    report.text = QStringLiteral("The process has finished successfully!") + CR + CR +
-                  SizeLine(size) + CR + CR + DiscFitAdvice(size.minutes) + CR + CR +
-                  QStringLiteral("Do you want to read the log file?");
+    report.text = ImageMadeQuestion(size);
     return report;
 }
 

@@ -95,6 +95,11 @@ QStringList ScriptOpening(const QString& banner) {
     return {QStringLiteral("echo off"), QStringLiteral("cls"), bannerLine, RuleLine(bannerLine)};
 }
 
+QStringList PleaseWaitLines() {
+    return {QStringLiteral("echo Please wait for this process to complete. It may take"),
+            QStringLiteral("echo a few minutes.")};
+}
+
 QStringList ScriptClosing() {
     return {QStringLiteral("echo."), QStringLiteral("echo Finished!"), QStringLiteral("pause"),
             QStringLiteral("cls"), QStringLiteral("echo ***end***")};

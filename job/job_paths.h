@@ -60,6 +60,9 @@ namespace torvane {
 // as many '=' as the banner has characters.
 QStringList ScriptOpening(const QString& banner);
 
+// The two lines that ask for patience before a long tool runs.
+QStringList PleaseWaitLines();
+
 // The last lines of a job script that waits for a key: "echo.", "echo Finished!", "pause",
 // "cls", "echo ***end***". The end marker lands at row 0, column 0 after the clear.
 QStringList ScriptClosing();

@@ -78,8 +78,7 @@ JobPlan BuildVcdxripJob(const VcdxripInputs& in) {
                      << QStringLiteral("echo Option switches: ") + VcdxripOptions(in) +
                             QStringLiteral(" -v")
                      << QStringLiteral("echo.")
-                     << QStringLiteral("echo Please wait for this process to complete. It may take")
-                     << QStringLiteral("echo a few minutes.") << plan.commandLine;
+                     << PleaseWaitLines() << plan.commandLine;
     plan.scriptLines << ScriptClosing();
     return plan;
 }

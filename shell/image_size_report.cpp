@@ -1,6 +1,7 @@
 #include "shell/image_size_report.h"
 
 #include "shell/leading_number.h"
+#include "shell/mod_general.h"
 
 namespace torvane {
 
@@ -40,6 +41,13 @@ QString SizeLine(const ImageSize& size) {
         .arg(size.minutes)
         .arg(size.seconds)
         .arg(size.sectors);
+}
+
+QString ImageMadeQuestion(const ImageSize& size) {
+    const QString paragraph = QStringLiteral("\r\r");
+    return QStringLiteral("The process has finished successfully!") + paragraph + SizeLine(size) +
+           paragraph + DiscFitAdvice(size.minutes) + paragraph +
+           QStringLiteral("Do you want to read the log file?");
 }
 
 }  // namespace torvane

@@ -24,5 +24,8 @@ ImageSize SizeAtLineEnd(const QByteArray& lastLine);
 ImageSize SizeAtFirstBracket(const QByteArray& lastLine);
 // "The image size is: 74 minutes, 3 seconds, 40 sectors."
 QString SizeLine(const ImageSize& size);
+// The build tools' question on success: the size line, the disc-fit advice for its
+// minutes, and whether to read the log.
+QString ImageMadeQuestion(const ImageSize& size);
 
 }  // namespace torvane
