@@ -34,31 +34,50 @@ QString BrowseStartFolder(const QString& boxText) {
     return QDir::homePath();
 }
 
-void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target) {
-    const QString folder = BrowseStartFolder(target.text());
+std::optional<QString> PickFile(FileDialogs& files, BrowseKind kind, const QString& filter,
+                                const QString& shownPath) {
+    const QString folder = BrowseStartFolder(shownPath);
     const std::optional<QString> name = kind == BrowseKind::Open
                                             ? files.openFileName(filter, kToolFilterIndex, folder)
                                             : files.saveFileName(filter, kToolFilterIndex, folder);
-    if (!name)
-        return;
-    target.setText(*name);
-    LastPickedFolder() = QFileInfo(*name).absolutePath();
+    if (name)
+        LastPickedFolder() = QFileInfo(*name).absolutePath();
+    return name;
 }
 
-void MakeCancelButton(QWidget& form, QPushButton& cancel) {
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), &form);
-    QObject::connect(escape, &QShortcut::activated, &cancel, [&cancel] {
-        if (cancel.isEnabled())
-            cancel.click();
+void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target) {
+    if (const std::optional<QString> name = PickFile(files, kind, filter, target.text()))
+        target.setText(*name);
+}
+
+namespace {
+
+void MakeKeyPress(QWidget& form, QKeySequence key, QPushButton& button) {
+    auto* shortcut = new QShortcut(key, &form);
+    QObject::connect(shortcut, &QShortcut::activated, &button, [&button] {
+        if (button.isEnabled())
+            button.click();
     });
+}
+
+}  // namespace
+
+void MakeCancelButton(QWidget& form, QPushButton& cancel) {
+    MakeKeyPress(form, QKeySequence(Qt::Key_Escape), cancel);
+}
+
+// A focused button takes Enter itself (enter_presses_button.h) before the shortcut sees it.
+void MakeDefaultButton(QWidget& form, QPushButton& button) {
+    MakeKeyPress(form, QKeySequence(Qt::Key_Return), button);
+    MakeKeyPress(form, QKeySequence(Qt::Key_Enter), button);
 }
 
 }  // namespace torvane
 
 namespace torvane {
 
-bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
-                  std::initializer_list<QString> paths, std::initializer_list<QString> folders) {
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const QStringList& paths,
+                  const QStringList& folders) {
     QString message = validationMessage;
     if (message.isEmpty())
         message = UnsafePathMessage(paths);

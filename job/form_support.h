@@ -2,7 +2,8 @@
 // Small pieces every form uses alike: the browse handlers and the cancel button.
 
 #include <QString>
-#include <initializer_list>
+#include <QStringList>
+#include <optional>
 
 class QLineEdit;
 class QPushButton;
@@ -27,9 +28,15 @@ inline const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files 
 QString BrowseStartFolder(const QString& boxText);
 
 void Browse(FileDialogs& files, BrowseKind kind, const QString& filter, QLineEdit& target);
+// The same dialog for a name that goes elsewhere; nullopt when the user cancels.
+std::optional<QString> PickFile(FileDialogs& files, BrowseKind kind, const QString& filter,
+                                const QString& shownPath);
 
 // Makes Escape press `cancel` (while it is enabled), as a form's cancel button.
 void MakeCancelButton(QWidget& form, QPushButton& cancel);
+// Makes Enter press `button` (while it is enabled) wherever no other button has the focus,
+// as a form's default button.
+void MakeDefaultButton(QWidget& form, QPushButton& button);
 
 }  // namespace torvane
 
@@ -41,8 +48,8 @@ class MessageBoxes;
 // passed), then the refusal of a path that cannot be carried through a job script, then
 // that of a folder the job writes into (`folders`) that does not exist or cannot be written. Shows
 // the information box and returns false when Go must stop; nothing else is changed.
-bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage,
-                  std::initializer_list<QString> paths, std::initializer_list<QString> folders);
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const QStringList& paths,
+                  const QStringList& folders);
 
 }  // namespace torvane
 

@@ -44,6 +44,13 @@ QLineEdit* ToolForm::pathBox(const char* name, const char* tip) {
     return box;
 }
 
+QLineEdit* ToolForm::textBox(const char* name, const char* tip, const char* text, int maxLength) {
+    auto* box = Named(new QLineEdit(QString::fromUtf8(text), &form_), name, tip);
+    if (maxLength > 0)
+        box->setMaxLength(maxLength);
+    return box;
+}
+
 QPushButton* ToolForm::button(const char* name, const char* caption, const char* tip) {
     auto* button = Named(new QPushButton(QString::fromUtf8(caption), &form_), name, tip);
     button->setAutoDefault(false);

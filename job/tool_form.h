@@ -27,6 +27,8 @@ public:
     QLabel* label(const char* name, const char* caption, const char* tip);
     // Read-only and out of the tab order: only the browse handlers fill it.
     QLineEdit* pathBox(const char* name, const char* tip);
+    // Editable, holding `text`, at most `maxLength` characters (0: no limit).
+    QLineEdit* textBox(const char* name, const char* tip, const char* text, int maxLength);
     QPushButton* button(const char* name, const char* caption, const char* tip);
     QCheckBox* checkBox(const char* name, const char* caption, const char* tip);
     QRadioButton* optionButton(const char* name, const char* caption, const char* tip);

@@ -2,7 +2,9 @@
 
 #include "additional/frm_regen.h"
 #include "additional/frm_subindex.h"
+#include "author/frm_vcdimager.h"
 #include "author/frm_vcdxbuild.h"
+#include "author/frm_vcdxgen.h"
 #include "inspect/frm_cdxa2mpeg.h"
 #include "inspect/frm_vcddebug.h"
 #include "inspect/frm_vcdxminfo.h"
@@ -29,6 +31,8 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
         {QStringLiteral("vcddebug"), Factory<frm_vcddebug>()},
         {QStringLiteral("cdxa2mpeg"), Factory<frm_cdxa2mpeg>()},
         {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
+        {QStringLiteral("vcdxgen"), Factory<frm_vcdxgen>()},
+        {QStringLiteral("vcdimager"), Factory<frm_vcdimager>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},
         {QStringLiteral("regen"), Factory<frm_regen>()},

@@ -24,7 +24,9 @@ private slots:
         QTest::newRow("regen") << int(Qt::Key_N) << "CUE/BIN Regenerator - Torvane";
         QTest::newRow("vcddebug") << int(Qt::Key_D) << "VCDDEBUG - Torvane";
         QTest::newRow("cdxa2mpeg") << int(Qt::Key_C) << "CDXA2MPEG - Torvane";
-        for (const char* key : {"vcdimager", "vcdxgen", "lkvcdxbuild", "lkvcdxrip"})
+        QTest::newRow("vcdimager") << int(Qt::Key_V) << "VCDIMAGER - Torvane";
+        QTest::newRow("vcdxgen") << int(Qt::Key_G) << "VCDXGEN - Torvane";
+        for (const char* key : {"lkvcdxbuild", "lkvcdxrip"})
             QTest::newRow(key) << 0 << "";  // no dialog yet: the button is disabled
     }
 

@@ -1,0 +1,113 @@
+#pragma once
+// The form that VCDXGEN and VCDIMAGER share: MPEG files picked in the list dialog, an
+// output file, the disc type and settings, and a job in the tool folder. Each tool adds
+// its own first check box (No PBC, or 2336-byte sectors), texts, job and report.
+
+#include "author/disc_settings.h"
+#include "job/job_frame.h"
+
+#include <QString>
+#include <QStyle>
+#include <QWidget>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace torvane {
+
+class frm_mainmenu;
+
+// The texts and choices in which the two forms differ.
+struct DiscToolText {
+    const char* formName;  // "frm_vcdxgen"
+    const char* caption;
+    const char* consoleTitle;
+    const char* loadFormName;  // the list dialog's name
+    const char* outputLabel;
+    const char* outputLabelTip;
+    const char* outputTip;
+    const char* outputBrowseTip;
+    const QString* outputFilter;
+    const char* firstBoxName;
+    const char* firstBoxCaption;
+    const char* firstBoxTip;
+    bool (*firstBoxCounts)(DiscType);  // whether the first check box is enabled with a type
+    const char* aboutCaption;
+    const char* aboutKey;
+    const char* frameTitle;
+    const char* frameText;
+    QStyle::StandardPixmap picture;
+};
+
+class DiscToolForm : public QWidget {
+    Q_OBJECT
+public:
+    DiscToolForm(frm_mainmenu& menu, Services& services, const DiscToolText& text);
+
+    void cmd_input_Click();
+    void cmd_rip_Click();
+
+    QLabel* lbl_input;
+    QLabel* Label2;
+    QLineEdit* txt_inputnumber;
+    QPushButton* cmd_input;
+    QLabel* lbl_output;
+    QLineEdit* txt_output;
+    QPushButton* cmd_output;
+    QLabel* Label3;
+    QRadioButton* opt_vcd11;
+    QRadioButton* opt_vcd2;
+    QRadioButton* opt_svcd;
+    QRadioButton* opt_hqvcd;
+    QLabel* Label4;
+    QLineEdit* txt_volumelabel;
+    QLabel* Label5;
+    QLineEdit* txt_albumid;
+    QLabel* Label6;
+    QLineEdit* txt_volumecount;
+    QLabel* Label7;
+    QLineEdit* txt_volumenumber;
+    QCheckBox* firstBox;  // chk_nopbc or chk_s2336
+    QCheckBox* chk_brokensvcd;
+    QCheckBox* chk_update;
+    QPushButton* cmd_rip;
+    QPushButton* cmd_cancel;
+    QPushButton* cmd_about;
+    QGroupBox* Frame1;
+    QLabel* Label1;
+
+    QString crlf;
+    QString tool_folder;
+    int16_t file_count = 0;
+    QString file_list;
+    QString list_path;
+    QString Tag;     // the channel to the list dialog, empty outside that exchange
+    JobFrame frame;  // console, script_path, job_running, Timer1
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    DiscSettings settings() const;
+
+    virtual JobPlan buildJob() const = 0;
+    // Reads the log and shows the outcome; on success, the tool's own question.
+    virtual void report() = 0;
+
+    Services& services_;
+
+private:
+    void buildControls(const DiscToolText& text);
+    void Form_Load();
+    DiscType selectedType() const;
+    void applyInterlock();
+    void setControlsEnabled(bool enabled);
+
+    frm_mainmenu& menu_;
+    const char* loadFormName_;
+    bool (*firstBoxCounts_)(DiscType);
+};
+
+}  // namespace torvane

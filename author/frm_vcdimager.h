@@ -1,0 +1,21 @@
+#pragma once
+// The VCDIMAGER dialog: MPEG files and disc settings become a CUE/BIN image in one go,
+// with the image size in the report.
+
+#include "author/disc_tool_form.h"
+
+namespace torvane {
+
+class frm_vcdimager : public DiscToolForm {
+    Q_OBJECT
+public:
+    frm_vcdimager(frm_mainmenu& menu, Services& services);
+
+    QCheckBox* chk_s2336;
+
+protected:
+    JobPlan buildJob() const override;
+    void report() override;
+};
+
+}  // namespace torvane

@@ -1,0 +1,55 @@
+#include "author/frm_vcdxgen.h"
+
+#include "author/vcdxgen_builder.h"
+#include "job/form_support.h"
+#include "shell/mod_general.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+
+namespace torvane {
+
+namespace {
+
+const DiscToolText kText{
+    "frm_vcdxgen",
+    "VCDXGEN - Torvane",
+    "Torvane -- VCDXGEN Tool",
+    "frm_vcdxgen_load",
+    "Save XML descriptor file:",
+    "Specify the output XML filename",
+    "Specify the output XML filename",
+    "Browse for the output XML filename",
+    &kXmlFilter,
+    "chk_nopbc",
+    "No PBC",
+    "Check this to turn off  PBC (playback control) on the disc (PBC is required for menus and "
+    "chapters)",
+    NoPbcCounts,
+    "About VCDXGEN",
+    "vcdxgen",
+    "What does VCDXGEN do?",
+    "VCDXGEN is a tools that generates a simple XML descriptor file for a potential VCD and "
+    "SVCD.  The XML will only describe a simple multitrack S/VCD but you can add more content "
+    "by editing the XML file.  VCDXGEN is intended only as the first step in authoring the "
+    "S/VCD.",
+    QStyle::SP_FileDialogDetailedView};
+
+}  // namespace
+
+frm_vcdxgen::frm_vcdxgen(frm_mainmenu& menu, Services& services)
+    : DiscToolForm(menu, services, kText), chk_nopbc(firstBox) {}
+
+JobPlan frm_vcdxgen::buildJob() const {
+    return BuildVcdxgenJob({settings(), chk_nopbc->isChecked()});
+}
+
+void frm_vcdxgen::report() {
+    const ListToolReport outcome = BuildVcdxgenReport(ReadWholeFile(frame.log_path));
+    if (!outcome.succeeded)
+        InformationBox(services_.boxes, kInformation, outcome.text);
+    else if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
+        OpenInViewer(services_, txt_output->text());
+}
+
+}  // namespace torvane

@@ -1,0 +1,159 @@
+#include "author/mpeg_load_dialog.h"
+
+#include "job/form_support.h"
+#include "job/services.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace torvane {
+
+namespace {
+
+const QString kMpegFilter =
+    QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg");
+const QString kQuestion = QStringLiteral("Question");
+
+template <typename Control>
+Control* Named(Control* control, const char* name, const char* tip = nullptr) {
+    control->setObjectName(QLatin1String(name));
+    if (tip)
+        control->setToolTip(QString::fromUtf8(tip));
+    return control;
+}
+
+}  // namespace
+
+MpegLoadDialog::MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services,
+                               const char* formName)
+    : QDialog(&partner, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
+                            Qt::WindowCloseButtonHint),
+      partnerTag_(partnerTag),
+      services_(services) {
+    setObjectName(QLatin1String(formName));
+    setWindowTitle(QStringLiteral("Load MPEG files..."));
+    setModal(true);
+    buildControls();
+    Form_Load();
+}
+
+void MpegLoadDialog::buildControls() {
+    const char* countTip = "Number of MPEG files loaded (maximum of 98)";
+    Label1 =
+        Named(new QLabel(QStringLiteral("Number of MPEG files loaded:"), this), "Label1", countTip);
+    txt_inputnumber = Named(new QLineEdit(QStringLiteral("0"), this), "txt_inputnumber", countTip);
+    label2 = Named(new QLabel(QStringLiteral("Files:"), this), "label2");
+    txt_inputlist = Named(new QPlainTextEdit(this), "txt_inputlist");
+    for (QWidget* box : std::initializer_list<QWidget*>{txt_inputnumber, txt_inputlist})
+        box->setFocusPolicy(Qt::NoFocus);
+    txt_inputnumber->setReadOnly(true);
+    txt_inputlist->setReadOnly(true);
+    txt_inputlist->setLineWrapMode(QPlainTextEdit::NoWrap);
+    txt_inputlist->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    txt_inputlist->setMinimumSize(480, 220);
+
+    const auto button = [this](const char* name, const char* caption, const char* tip) {
+        auto* control = Named(new QPushButton(QString::fromUtf8(caption), this), name, tip);
+        control->setAutoDefault(false);
+        return control;
+    };
+    cmd_load = button("cmd_load", "&Load", "Load another MPEG file");
+    cmd_okay = button("cmd_okay", "&Okay", "Accept the current list of MPEG files");
+    cmd_cancel = button("cmd_cancel", "&Cancel", "Cancel any changes");
+    cmd_delete = button("cmd_delete", "&Delete Last", "Remove the last added entry");
+    cmd_clear = button("cmd_clear", "Clear List", "Remove all the files on the list");
+    cmd_load->setDefault(true);
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(Label1, 0, 0);
+    grid->addWidget(txt_inputnumber, 0, 1);
+    grid->addWidget(label2, 1, 0, 1, 2);
+    grid->addWidget(txt_inputlist, 2, 0, 1, 2);
+    auto* buttons = new QVBoxLayout;
+    for (QPushButton* control : {cmd_load, cmd_okay, cmd_cancel, cmd_delete, cmd_clear})
+        buttons->addWidget(control);
+    buttons->addStretch();
+    grid->addLayout(buttons, 0, 2, 3, 1);
+    setTabOrder(cmd_load, cmd_okay);
+    setTabOrder(cmd_okay, cmd_cancel);
+    setTabOrder(cmd_cancel, cmd_delete);
+    setTabOrder(cmd_delete, cmd_clear);
+    setFixedSize(sizeHint());
+
+    connect(cmd_load, &QPushButton::clicked, this, &MpegLoadDialog::cmd_load_Click);
+    connect(cmd_okay, &QPushButton::clicked, this, &MpegLoadDialog::cmd_okay_Click);
+    connect(cmd_cancel, &QPushButton::clicked, this, &MpegLoadDialog::cmd_cancel_Click);
+    connect(cmd_delete, &QPushButton::clicked, this, &MpegLoadDialog::cmd_delete_Click);
+    connect(cmd_clear, &QPushButton::clicked, this, &MpegLoadDialog::cmd_clear_Click);
+}
+
+// From here on the exchange text lives only in this dialog.
+void MpegLoadDialog::Form_Load() {
+    crlf = QStringLiteral("\r\n");
+    const QString exchange = partnerTag_;
+    partnerTag_.clear();
+    if (const std::optional<MpegList> list = ReadExchangeText(exchange)) {
+        file_list = list->text;
+        show(*list);
+    }
+    cmd_load->setFocus();
+}
+
+// The box shows one entry a line.
+void MpegLoadDialog::show(const MpegList& list) {
+    list_ = list;
+    txt_inputnumber->setText(QString::number(list.count));
+    txt_inputlist->setPlainText(QString(list.text).replace(crlf, QStringLiteral("\n")));
+}
+
+void MpegLoadDialog::cmd_load_Click() {
+    if (list_.count == kMaxMpegFiles) {
+        InformationBox(services_.boxes, kInformation,
+                       QStringLiteral("You have already selected 98 MPEG files.\r\rS/VCDs support "
+                                      "a maximum of 98 MPEG video tracks.\rIf you want to add "
+                                      "more files, you will first have to\rdelete some from the "
+                                      "list first."));
+        return;
+    }
+    if (const std::optional<QString> name =
+            PickFile(services_.files, BrowseKind::Open, kMpegFilter, QString()))
+        show(WithFileAdded(list_, *name));
+}
+
+void MpegLoadDialog::cmd_delete_Click() {
+    show(WithoutLastEntry(list_));
+}
+
+void MpegLoadDialog::cmd_clear_Click() {
+    if (ConfirmationBox(services_.boxes, kQuestion,
+                        QStringLiteral("Are you sure that you want to clear the files loaded?")) ==
+        vbYes)
+        show({});
+}
+
+void MpegLoadDialog::cmd_okay_Click() {
+    partnerTag_ = ExchangeText(list_);
+    accept();
+}
+
+void MpegLoadDialog::cmd_cancel_Click() {
+    if (ConfirmationBox(services_.boxes, kQuestion,
+                        QStringLiteral("Are you sure that you want to cancel?")) == vbYes)
+        reject();
+}
+
+// Escape asks as Cancel does; the close box closes without a question (QDialog's own).
+void MpegLoadDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        cmd_cancel->click();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+}  // namespace torvane
