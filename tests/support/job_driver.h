@@ -104,8 +104,11 @@ struct DialogFixture {
                                                  QByteArray(log).replace("\r\n", "\\r\\n") + "'");
         for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
             dialog.template findChild<QAbstractButton*>(name)->click();
-        fakes.files.names = {input, output};
-        dialog.cmd_input->click();
+        fakes.files.names = {output};
+        if (!input.isNull()) {  // a null input: the dialog has no input box to browse for
+            fakes.files.names.push_front(input);
+            dialog.cmd_input->click();
+        }
         dialog.cmd_output->click();
     }
 

@@ -46,16 +46,11 @@ vcdimager.exe  -v  --type=vcd2 -l VIDEOCD --info-album-id=MYVCD --volume-count=1
 echo Output BIN file: movie.bin
 echo Option switches: --sector-2336 --update-scan-offsets -v
 vcdimager.exe --sector-2336 --update-scan-offsets -v  --type=svcd -l VIDEOCD --info-album-id=MYVCD --volume-count=1 --volume-number=1 --cue-file="D:\img\movie.cue" --bin-file="D:\img\movie.bin" @list.txt > "D:\img\log.txt")";
-        QTest::newRow("VCD 1.1, 2336, .BIN kept")
-            << Inputs("/i/X.BIN", DiscType::Vcd11, true, '/') << R"(echo Ouput directory: /i/
+        QTest::newRow("HQVCD, .BIN kept, a blank before the switch")
+            << Inputs("/i/X.BIN", DiscType::Hqvcd, false, '/') << R"(echo Ouput directory: /i/
 echo Output BIN file: X.BIN
-echo Option switches: --sector-2336 -v
-vcdimager.exe --sector-2336 -v  --type=vcd11 -l VIDEOCD --info-album-id=MYVCD --volume-count=1 --volume-number=1 --cue-file="/i/X.BIN.cue" --bin-file="/i/X.BIN.bin" @list.txt > "/i/log.txt")";
-        QTest::newRow("HQVCD, a blank before the switch")
-            << Inputs("/i/X", DiscType::Hqvcd, false, '/') << R"(echo Ouput directory: /i/
-echo Output BIN file: X
 echo Option switches:  --update-scan-offsets -v
-vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id=MYVCD --volume-count=1 --volume-number=1 --cue-file="/i/X.cue" --bin-file="/i/X.bin" @list.txt > "/i/log.txt")";
+vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id=MYVCD --volume-count=1 --volume-number=1 --cue-file="/i/X.BIN.cue" --bin-file="/i/X.BIN.bin" @list.txt > "/i/log.txt")";
     }
 
     void commandAndScript() {
@@ -100,8 +95,7 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
         f.dialog.file_count = 2;
         f.dialog.file_list =
             Quoted(Media("clip-vcd.mpg")) + "\r\n" + Quoted(Media("clip-vcd2.mpg"));
-        f.fakes.files.names = {folder + "/-film ü.bin"};
-        f.dialog.cmd_output->click();
+        f.prepare(nullptr, "", QString(), folder + "/-film ü.bin");
         QVERIFY(f.go(vbYes));
 
         const QString log = folder + "/log.txt";

@@ -31,14 +31,6 @@ DiscSettings Disc(const QString& output, const QString& toolFolder, QChar sep) {
     return disc;
 }
 
-// Ticks or selects the named controls, and picks `output` as the output file.
-void Prepare(Fixture& f, const QString& clicks, const QString& output) {
-    for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
-        f.dialog.findChild<QAbstractButton*>(name)->click();
-    f.fakes.files.names = {output};
-    f.dialog.cmd_output->click();
-}
-
 // Runs `steps` in the list dialog that the form's Add button is about to open.
 void InListDialog(Fixture& f, const std::function<void(MpegLoadDialog&)>& steps) {
     QTimer::singleShot(
@@ -89,7 +81,6 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
         const JobPlan plan = BuildVcdxgenJob(in);
         QCOMPARE(plan.scriptLines, Script(kBanner, script, true));
         QCOMPARE(plan.jobDir, in.disc.toolFolder);
-        QCOMPARE(plan.scriptPath, in.disc.toolFolder + "run.bat");
         QCOMPARE(ListFilePath(in.disc), in.disc.toolFolder + "list.txt");
     }
 
@@ -111,13 +102,8 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
             "least one video file.");
         row("no output", 1, {"", "A", "A", "1", "1"}, "You have not set an output file!");
         row("label in lower case", 1, {"o", "Disc", "A", "1", "1"}, capitals.arg("Volume Label"));
-        row("label with a blank", 1, {"o", "MY DISC", "A", "1", "1"}, capitals.arg("Volume Label"));
         row("album with a hyphen", 1, {"o", "A", "MY-ALBUM", "1", "1"}, capitals.arg("Album ID"));
         row("count empty", 1, {"o", "A", "A", "", "1"}, count);
-        row("count 0", 1, {"o", "A", "A", "0", "1"}, count);
-        row("count with a letter", 1, {"o", "A", "A", "1a", "1"}, count);
-        row("count too long for any integer", 1, {"o", "A", "A", "99999999999999999999", "1"},
-            count);
         row("number 65536", 1, {"o", "A", "A", "1", "65536"}, number);
         row("3 of 2", 1, {"o", "A", "A", "2", "3"},
             "The Volume Number must be smaller than the Volume Count");
@@ -174,7 +160,7 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
             list.cmd_okay->click();
         });
         QCOMPARE(f.dialog.file_count, 0);
-        Prepare(f, "", f.work.filePath("x.xml"));
+        f.prepare(nullptr, "", QString(), f.work.filePath("x.xml"));
         f.dialog.cmd_rip->click();
         QVERIFY(f.fakes.boxes.shown.back().text.startsWith("You haven't selected any video"));
     }
@@ -244,7 +230,7 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
                                        f.dialog.txt_volumecount, f.dialog.txt_volumenumber};
         for (int i = 0; i < 4; ++i)
             fields[i]->setText(settings[i]);
-        Prepare(f, type + " " + boxes, folder + "/disc été.xml");
+        f.prepare(nullptr, type + " " + boxes, QString(), folder + "/disc été.xml");
         QVERIFY(f.go(vbYes));
         QCOMPARE(f.fakes.desktop.viewed, QStringList{folder + "/disc été.xml"});
         QVERIFY(!QFile::exists(f.app.toolFolder() + "list.txt") &&
@@ -279,7 +265,7 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
                 list.cmd_load->click();
             list.cmd_okay->click();
         });
-        Prepare(f, "", f.work.filePath("d.xml"));
+        f.prepare(nullptr, "", QString(), f.work.filePath("d.xml"));
         QVERIFY(f.go(vbNo));
         QCOMPARE(ReadBytes(f.work.filePath("d.xml")).count("<sequence-item src="), 98);
     }
