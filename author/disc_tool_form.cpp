@@ -44,9 +44,10 @@ void DiscToolForm::buildControls(const DiscToolText& text) {
     txt_inputnumber =
         form.pathBox("txt_inputnumber", "Number of source MPEG files selected (max. 98)");
     txt_inputnumber->setMinimumWidth(0);
+    txt_inputnumber->setMaximumWidth(txt_inputnumber->fontMetrics().horizontalAdvance("00000"));
     cmd_input = form.button("cmd_input", "Add...", "Add MPEG files to the S/VCD");
-    form.addOptionRow({lbl_input});
-    form.addOptionRow({Label2, txt_inputnumber, cmd_input});
+    form.addControlRow({lbl_input});
+    form.addControlRow({Label2, txt_inputnumber, cmd_input});
     lbl_output = form.label("lbl_output", text.outputLabel, text.outputLabelTip);
     txt_output = form.pathBox("txt_output", text.outputTip);
     cmd_output = form.button("cmd_output", "Browse...", text.outputBrowseTip);

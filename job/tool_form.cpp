@@ -72,6 +72,14 @@ void ToolForm::addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse) {
     paths_->addWidget(browse, row + 1, 1);
 }
 
+void ToolForm::addControlRow(std::initializer_list<QWidget*> controls) {
+    auto* row = new QHBoxLayout;
+    for (QWidget* control : controls)
+        row->addWidget(control);
+    row->addStretch();
+    paths_->addLayout(row, paths_->rowCount(), 0, 1, 2);
+}
+
 void ToolForm::addOptionRow(std::initializer_list<QWidget*> options) {
     auto* row = new QHBoxLayout;
     for (QWidget* option : options)

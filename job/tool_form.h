@@ -34,6 +34,8 @@ public:
     QRadioButton* optionButton(const char* name, const char* caption, const char* tip);
 
     void addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse);
+    // A row of controls among the path rows, in the order of the calls.
+    void addControlRow(std::initializer_list<QWidget*> controls);
     void addOptionRow(std::initializer_list<QWidget*> options);
     // A frame with the tool's picture ("Image1") and its description ("Label1").
     QGroupBox* descriptionFrame(const char* title, const char* text,
