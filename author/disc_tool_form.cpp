@@ -6,6 +6,7 @@
 #include "job/job_paths.h"
 #include "job/tool_form.h"
 #include "shell/frm_mainmenu.h"
+#include "shell/mod_general.h"
 #include "shell/mod_mainmenu.h"
 #include "shell/tool_dialogs.h"
 #include "shell/whole_file_write.h"
@@ -27,8 +28,7 @@ DiscToolForm::DiscToolForm(frm_mainmenu& menu, Services& services, const DiscToo
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
       services_(services),
       menu_(menu),
-      loadFormName_(text.loadFormName),
-      firstBoxCounts_(text.firstBoxCounts) {
+      text_(text) {
     setObjectName(QLatin1String(text.formName));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QString::fromUtf8(text.caption));
@@ -141,14 +141,14 @@ DiscType DiscToolForm::selectedType() const {
 
 void DiscToolForm::applyInterlock() {
     const DiscType type = selectedType();
-    firstBox->setEnabled(firstBoxCounts_(type));
+    firstBox->setEnabled(text_.firstBoxCounts(type));
     chk_brokensvcd->setEnabled(SvcdOptionsCount(type));
     chk_update->setEnabled(SvcdOptionsCount(type));
 }
 
 void DiscToolForm::cmd_input_Click() {
     Tag = ExchangeText({file_count, file_list});
-    MpegLoadDialog list(*this, Tag, services_, loadFormName_);
+    MpegLoadDialog list(*this, Tag, services_, text_.loadFormName);
     list.exec();
     const QString exchange = Tag;
     Tag.clear();
@@ -178,7 +178,7 @@ DiscSettings DiscToolForm::settings() const {
 
 void DiscToolForm::cmd_rip_Click() {
     const DiscSettings disc = settings();
-    const JobPlan plan = buildJob();
+    const JobPlan plan = text_.buildJob(disc, firstBox->isChecked());
     const QString outputDir = SplitOutputPath(disc.output, disc.sep).output_dir;
     if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc),
                       QStringList{disc.output} + ListedPaths(disc.files.text),
@@ -203,6 +203,14 @@ void DiscToolForm::setControlsEnabled(bool enabled) {
         control->setEnabled(enabled);
     if (enabled)
         applyInterlock();
+}
+
+void DiscToolForm::report() {
+    const ListToolReport outcome = text_.buildReport(ReadWholeFile(frame.log_path));
+    if (!outcome.succeeded)
+        InformationBox(services_.boxes, kInformation, outcome.text);
+    else if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
+        OpenInViewer(services_, text_.opensLog ? frame.log_path : txt_output->text());
 }
 
 void DiscToolForm::closeEvent(QCloseEvent* event) {

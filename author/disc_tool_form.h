@@ -36,6 +36,10 @@ struct DiscToolText {
     const char* firstBoxCaption;
     const char* firstBoxTip;
     bool (*firstBoxCounts)(DiscType);  // whether the first check box is enabled with a type
+    // The job of the settings and the first box's tick, and the outcome read from its log.
+    JobPlan (*buildJob)(const DiscSettings&, bool firstBoxTicked);
+    ListToolReport (*buildReport)(const std::optional<QByteArray>& log);
+    bool opensLog;  // Yes to the question opens the log; otherwise the output
     const char* aboutCaption;
     const char* aboutKey;
     const char* frameTitle;
@@ -90,24 +94,19 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    DiscSettings settings() const;
-
-    virtual JobPlan buildJob() const = 0;
-    // Reads the log and shows the outcome; on success, the tool's own question.
-    virtual void report() = 0;
-
-    Services& services_;
 
 private:
     void buildControls(const DiscToolText& text);
     void Form_Load();
     DiscType selectedType() const;
+    DiscSettings settings() const;
     void applyInterlock();
     void setControlsEnabled(bool enabled);
+    void report();
 
+    Services& services_;
     frm_mainmenu& menu_;
-    const char* loadFormName_;
-    bool (*firstBoxCounts_)(DiscType);
+    const DiscToolText& text_;
 };
 
 }  // namespace torvane

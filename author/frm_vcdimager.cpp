@@ -2,7 +2,6 @@
 
 #include "author/vcdimager_builder.h"
 #include "job/form_support.h"
-#include "shell/mod_general.h"
 
 #include <QCheckBox>
 
@@ -29,6 +28,11 @@ const DiscToolText kText{
     "Use 2336 byte sectors",
     "Use 2336 byte size sectors - generally not needed (turn on for 99 min CDs)",
     WithEveryType,
+    [](const DiscSettings& disc, bool ticked) {
+        return BuildVcdimagerJob({disc, ticked});
+    },
+    BuildVcdimagerReport,
+    true,
     "About VCDIMAGER",
     "vcdimager",
     "What does VCDIMAGER do?",
@@ -42,17 +46,5 @@ const DiscToolText kText{
 
 frm_vcdimager::frm_vcdimager(frm_mainmenu& menu, Services& services)
     : DiscToolForm(menu, services, kText), chk_s2336(firstBox) {}
-
-JobPlan frm_vcdimager::buildJob() const {
-    return BuildVcdimagerJob({settings(), chk_s2336->isChecked()});
-}
-
-void frm_vcdimager::report() {
-    const ListToolReport outcome = BuildVcdimagerReport(ReadWholeFile(frame.log_path));
-    if (!outcome.succeeded)
-        InformationBox(services_.boxes, kInformation, outcome.text);
-    else if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
-        OpenInViewer(services_, frame.log_path);
-}
 
 }  // namespace torvane

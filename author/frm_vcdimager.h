@@ -12,10 +12,6 @@ public:
     frm_vcdimager(frm_mainmenu& menu, Services& services);
 
     QCheckBox* chk_s2336;
-
-protected:
-    JobPlan buildJob() const override;
-    void report() override;
 };
 
 }  // namespace torvane

@@ -2,10 +2,8 @@
 
 #include "author/vcdxgen_builder.h"
 #include "job/form_support.h"
-#include "shell/mod_general.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 
 namespace torvane {
 
@@ -26,6 +24,11 @@ const DiscToolText kText{
     "Check this to turn off  PBC (playback control) on the disc (PBC is required for menus and "
     "chapters)",
     NoPbcCounts,
+    [](const DiscSettings& disc, bool ticked) {
+        return BuildVcdxgenJob({disc, ticked});
+    },
+    BuildVcdxgenReport,
+    false,
     "About VCDXGEN",
     "vcdxgen",
     "What does VCDXGEN do?",
@@ -39,17 +42,5 @@ const DiscToolText kText{
 
 frm_vcdxgen::frm_vcdxgen(frm_mainmenu& menu, Services& services)
     : DiscToolForm(menu, services, kText), chk_nopbc(firstBox) {}
-
-JobPlan frm_vcdxgen::buildJob() const {
-    return BuildVcdxgenJob({settings(), chk_nopbc->isChecked()});
-}
-
-void frm_vcdxgen::report() {
-    const ListToolReport outcome = BuildVcdxgenReport(ReadWholeFile(frame.log_path));
-    if (!outcome.succeeded)
-        InformationBox(services_.boxes, kInformation, outcome.text);
-    else if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
-        OpenInViewer(services_, txt_output->text());
-}
 
 }  // namespace torvane

@@ -12,10 +12,6 @@ public:
     frm_vcdxgen(frm_mainmenu& menu, Services& services);
 
     QCheckBox* chk_nopbc;
-
-protected:
-    JobPlan buildJob() const override;
-    void report() override;
 };
 
 }  // namespace torvane
