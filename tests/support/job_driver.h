@@ -35,6 +35,12 @@ public:
     void addTool(const QString& name, const QByteArray& body) const {
         QVERIFY(WriteScript(toolFolder() + name, body));
     }
+    // Links to the application's own tools: jobs' scripts and lists then go in this folder.
+    void linkAppTools(std::initializer_list<const char*> names) const {
+        for (const char* name : names)
+            QVERIFY(
+                QFile::link(TORVANE_APP_DIR "/VCDImager/" + QString(name), toolFolder() + name));
+    }
 
 private:
     QTemporaryDir dir_;

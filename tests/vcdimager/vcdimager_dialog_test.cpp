@@ -88,9 +88,7 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
 
     void realJobRipsBack() {
         DialogFixture<frm_vcdimager> f("vcdimager");
-        for (const char* tool : {"vcdimager.exe", "vcdxrip.exe"})
-            QVERIFY(QFile::link(TORVANE_APP_DIR "/VCDImager/" + QString(tool),
-                                f.app.toolFolder() + tool));
+        f.app.linkAppTools({"vcdimager.exe", "vcdxrip.exe"});
         const QString folder = FreshFolder(f.work.path(), "img & 'co' été");
         f.dialog.file_count = 2;
         f.dialog.file_list =
@@ -114,6 +112,16 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
                  0);
         QVERIFY(ReadBytes(folder + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")));
         QVERIFY(ReadBytes(folder + "/avseq02.mpg") == ReadBytes(Media("clip-vcd2.mpg")));
+    }
+
+    void aFileThatIsNoMpegFailsTheJob() {
+        DialogFixture<frm_vcdimager> f("vcdimager");
+        f.app.linkAppTools({"vcdimager.exe"});
+        f.dialog.file_count = 1;
+        f.dialog.file_list = Quoted(Media("random.bin"));
+        f.prepare(nullptr, "", QString(), f.work.filePath("d.bin"));
+        QVERIFY(f.go(vbOK));
+        QVERIFY(f.fakes.boxes.shown.at(0).text.startsWith("There appears to have been an error!"));
     }
 };
 
