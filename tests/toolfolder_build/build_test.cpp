@@ -115,6 +115,43 @@ private slots:
                      log.constData());
     }
 
+    // The fork's stand-in as the lkVCDxBUILD job starts it; a BIN or a real NRG rips back into
+    // the clips (Debian's vcdxrip rips nothing from a TOC image of several files).
+    void lkvcdxbuildMakesEachImageType_data() {
+        QTest::addColumn<QByteArray>("switches");  // the image type and file switches
+        QTest::addColumn<QString>("made");         // empty: nothing may be made
+        QTest::addColumn<QStringList>("rip");      // vcdxrip.exe's source, if it can rip it
+        QTest::newRow("cuebin, 2336-byte sectors")
+            << QByteArray("cuebin -c \"m.cue\" -b \"m.bin\" -s") << "m.cue"
+            << QStringList{"--sector-2336", "--bin-file=m.bin"};
+        QTest::newRow("tocimg") << QByteArray("tocimg -c \"m\"") << "m.toc" << QStringList();
+        QTest::newRow("nrg: a real Nero image")
+            << QByteArray("nrg -b \"m.nrg\" ") << "m.nrg" << QStringList{"--nrg-file=m.nrg"};
+        QTest::newRow("an unknown type builds nothing")
+            << QByteArray("iso -b \"m.iso\"") << "" << QStringList();
+    }
+
+    void lkvcdxbuildMakesEachImageType() {
+        QFETCH(QByteArray, switches);
+        QFETCH(QString, made);
+        QFETCH(QStringList, rip);
+        const QString out = FreshFolder(work_.path(), "lk " + QString(QTest::currentDataTag()));
+        RunScriptLine(Quoted(TORVANE_APP_DIR "/lkVCDImager/lkvcdxbuild.exe") + " -x " +
+                          Quoted(in("vcd.xml")) + " -i " +
+                          switches.replace("\"m", "\"" + out.toUtf8() + "/m") + " -v 2 > " +
+                          Quoted(out + "/log.txt"),
+                      in_);
+        QCOMPARE(LogSucceeded(ReadBytes(out + "/log.txt"), "   INFO: finished ok"),
+                 !made.isEmpty());
+        QVERIFY(made.isEmpty() ? EntriesOf(out) == QStringList{"log.txt"}
+                               : QFile::exists(out + "/" + made));
+        if (rip.isEmpty())
+            return;
+        QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), rip, out).exitCode, 0);
+        QVERIFY(ReadBytes(out + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")) &&
+                ReadBytes(out + "/avseq02.mpg") == ReadBytes(Media("clip-vcd.mpg")));
+    }
+
     // The list as the VCDXGEN and VCDIMAGER dialogs write it into the tool folder, where the
     // job runs: one double-quoted path a line, CR LF between lines, none after the last.
     void listToolsTakeTheListedFiles_data() {
