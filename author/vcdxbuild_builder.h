@@ -19,6 +19,7 @@ struct VcdxbuildInputs {
     bool noSubindex = false;  // chk_subindex ticked
     QString toolFolder;       // ends in a separator
     QChar sep;
+    bool nrg = false;  // opt_nrg selected, on lkVCDxBUILD; then cueBin is false
 };
 
 // The first failing check's message, or empty when Go may go on.
@@ -38,6 +39,11 @@ struct VcdxbuildJob {
     QString cue_path;
 };
 VcdxbuildJob BuildVcdxbuildJob(const VcdxbuildInputs& in);
+
+// The same job for lkVCDxBUILD: the fork's switches and script lines.
+VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in);
+// "cuebin", "tocimg" or "nrg".
+QString LkImageType(const VcdxbuildInputs& in);
 
 // Whether the new cue sheet loses its subindices after a successful job.
 bool VcdxbuildRewritesCue(const VcdxbuildInputs& in);

@@ -2,6 +2,7 @@
 
 #include "additional/frm_regen.h"
 #include "additional/frm_subindex.h"
+#include "author/frm_lkvcdxbuild.h"
 #include "author/frm_vcdimager.h"
 #include "author/frm_vcdxbuild.h"
 #include "author/frm_vcdxgen.h"
@@ -32,6 +33,7 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
         {QStringLiteral("cdxa2mpeg"), Factory<frm_cdxa2mpeg>()},
         {QStringLiteral("vcdxbuild"), Factory<frm_vcdxbuild>()},
         {QStringLiteral("vcdxgen"), Factory<frm_vcdxgen>()},
+        {QStringLiteral("lkvcdxbuild"), Factory<frm_lkvcdxbuild>()},
         {QStringLiteral("vcdimager"), Factory<frm_vcdimager>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},

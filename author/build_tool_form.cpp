@@ -1,0 +1,182 @@
+#include "author/build_tool_form.h"
+
+#include "about/mod_about.h"
+#include "author/cue_rewrite.h"
+#include "job/form_support.h"
+#include "job/job_paths.h"
+#include "job/tool_form.h"
+#include "shell/frm_mainmenu.h"
+#include "shell/mod_general.h"
+#include "shell/mod_mainmenu.h"
+#include "shell/tool_dialogs.h"
+#include "shell/whole_file_write.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace torvane {
+
+namespace {
+const QString kTocFilter = QStringLiteral("All Files (*.*)|*.*|TOC Files (*.toc)|*.toc");
+const QString kNrgFilter = QStringLiteral("All Files (*.*)|*.*|NRG Files (*.nrg)|*.nrg");
+}  // namespace
+
+BuildToolForm::BuildToolForm(frm_mainmenu& menu, Services& services, const BuildToolText& text)
+    : QWidget(nullptr, Qt::Window),
+      frame(*this, services, QString::fromUtf8(text.consoleTitle),
+            {[this] { report(); }, [this] { setControlsEnabled(true); }}),
+      menu_(menu),
+      services_(services),
+      text_(text) {
+    setObjectName(QLatin1String(text.formName));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QString::fromUtf8(text.caption));
+    buildControls(text);
+    connectControls(text);
+    Form_Load();
+}
+
+void BuildToolForm::buildControls(const BuildToolText& text) {
+    ToolForm form(*this);
+    lbl_input = form.label("lbl_input", "Load XML file:", "Specify the input XML file.");
+    txt_input = form.pathBox("txt_input", "Specify the input file name.");
+    cmd_input = form.button("cmd_input", "Browse...", "Browse for the input XML file.");
+    form.addPathRow(lbl_input, txt_input, cmd_input);
+    lbl_output =
+        form.label("lbl_output", "Save CD Image:", "Specify the output CD image filename.");
+    txt_output = form.pathBox("txt_output", "Specify the output CD image filename.");
+    cmd_output = form.button("cmd_output", "Browse...", "Browse for the output image filename.");
+    form.addPathRow(lbl_output, txt_output, cmd_output);
+
+    opt_cuebin = form.optionButton(
+        "opt_cuebin", "CUE/BIN",
+        "The CUE/BIN format is the best supported (including CDRWin, CDRDAO and Nero)");
+    opt_toc =
+        form.optionButton("opt_toc", "CDRDAO/TOC",
+                          "The TOC format -- the CUE/BIN format is better supported under Win32.");
+    if (text.withNrg)
+        opt_nrg = form.optionButton("opt_nrg", "NRG (Nero)", "The Nero Burning Rom image format");
+    opt_cuebin->setChecked(true);
+    form.addOptionRow({opt_cuebin, opt_toc});
+    if (opt_nrg)
+        form.addOptionRow({opt_nrg});
+    chk_s2336 = form.checkBox("chk_s2336", "2336 byte sector mode",
+                              "Generally not required -- turn on for 99 min CDs");
+    chk_subindex = form.checkBox("chk_subindex", "No subindicies in cuesheet",
+                                 "NOT RECOMMENDED unless you have problems with subindicies");
+    form.addOptionRow({chk_s2336, chk_subindex});
+
+    Frame1 = form.descriptionFrame(text.frameTitle, text.frameText, QStyle::SP_DriveCDIcon);
+    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
+
+    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
+    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
+    cmd_about = form.button("cmd_about", text.aboutCaption, text.aboutCaption);
+    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, QStyle::SP_FileDialogInfoView);
+    if (opt_nrg)
+        form.finish({cmd_input, cmd_output, opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex,
+                     cmd_rip, cmd_cancel, cmd_about});
+    else
+        form.finish({cmd_input, cmd_output, opt_cuebin, opt_toc, chk_s2336, chk_subindex, cmd_rip,
+                     cmd_cancel, cmd_about});
+}
+
+void BuildToolForm::connectControls(const BuildToolText& text) {
+    connect(cmd_input, &QPushButton::clicked, this,
+            [this] { Browse(services_.files, BrowseKind::Open, kXmlFilter, *txt_input); });
+    connect(cmd_output, &QPushButton::clicked, this, &BuildToolForm::cmd_output_Click);
+    // Whatever the order of clicks, focus changes and arrow keys, once they have passed the
+    // check boxes follow the selected image type; no tick and no name changes.
+    for (QRadioButton* type : {opt_cuebin, opt_toc, opt_nrg})
+        if (type)
+            connect(type, &QRadioButton::toggled, this, &BuildToolForm::applyInterlock);
+    connect(cmd_rip, &QPushButton::clicked, this, &BuildToolForm::cmd_rip_Click);
+    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
+    const QString aboutKey = QString::fromUtf8(text.aboutKey);
+    connect(cmd_about, &QPushButton::clicked, this, [aboutKey] { ShowComponentAbout(aboutKey); });
+    MakeCancelButton(*this, *cmd_cancel);
+}
+
+void BuildToolForm::Form_Load() {
+    tool_folder = ToolFolder(menu_.Tag, QString::fromUtf8(text_.folderWord), QChar(kPathSeparator));
+    crlf = QStringLiteral("\r\n");
+}
+
+void BuildToolForm::cmd_output_Click() {
+    const bool nrg = opt_nrg && opt_nrg->isChecked();
+    Browse(services_.files, BrowseKind::Save,
+           nrg                    ? kNrgFilter
+           : opt_toc->isChecked() ? kTocFilter
+                                  : kBinFilter,
+           *txt_output);
+}
+
+// Subindices can go only from a cue sheet; a Nero image has no 2336-byte mode.
+void BuildToolForm::applyInterlock() {
+    chk_subindex->setEnabled(opt_cuebin->isChecked());
+    chk_s2336->setEnabled(!opt_nrg || !opt_nrg->isChecked());
+}
+
+VcdxbuildInputs BuildToolForm::inputs() const {
+    VcdxbuildInputs in;
+    in.input = txt_input->text();
+    in.output = txt_output->text();
+    in.cueBin = opt_cuebin->isChecked();
+    in.sector2336 = chk_s2336->isChecked();
+    in.noSubindex = chk_subindex->isChecked();
+    in.toolFolder = tool_folder;
+    in.sep = QChar(kPathSeparator);
+    in.nrg = opt_nrg && opt_nrg->isChecked();
+    return in;
+}
+
+void BuildToolForm::cmd_rip_Click() {
+    const VcdxbuildInputs in = inputs();
+    // The job, its script and its log belong in the input folder, the image in its own.
+    const VcdxbuildJob job = text_.buildJob(in);
+    if (!GoMayProceed(services_.boxes, VcdxbuildValidation(in), {in.input, in.output},
+                      {job.plan.jobDir, SplitOutputPath(in.output, in.sep).output_dir}))
+        return;
+    if (in.cueBin)
+        cue_path = job.cue_path;
+    setControlsEnabled(false);
+    frame.Start(job.plan);
+}
+
+void BuildToolForm::setControlsEnabled(bool enabled) {
+    // Coming back, the selected image type is selected anew and its interlock applied.
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex, txt_output, cmd_output,
+             txt_input, cmd_input, cmd_about, cmd_rip, cmd_cancel})
+        if (control)
+            control->setEnabled(enabled);
+    if (enabled)
+        applyInterlock();
+}
+
+void BuildToolForm::report() {
+    const VcdxbuildReport outcome = BuildVcdxbuildReport(ReadWholeFile(frame.log_path));
+    if (!outcome.succeeded) {
+        InformationBox(services_.boxes, kInformation, outcome.text);
+        return;
+    }
+    if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
+        OpenInViewer(services_, frame.log_path);
+    // After the question, and without a word of its own.
+    if (!opt_cuebin->isChecked() || !chk_subindex->isChecked())
+        return;
+    const QString reason = RewriteCueWithoutSubindices(cue_path);
+    if (!reason.isEmpty())
+        InformationBox(services_.boxes, kInformation, FileNotWrittenMessage(cue_path, reason));
+}
+
+void BuildToolForm::closeEvent(QCloseEvent* event) {
+    UnloadToolDialog(*event, frame, menu_);
+}
+
+}  // namespace torvane

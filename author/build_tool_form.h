@@ -1,0 +1,84 @@
+#pragma once
+// The form that VCDXBUILD and lkVCDxBUILD share: an XML descriptor made into a disc
+// image, CUE/BIN or CDRDAO/TOC (or, with the fork, Nero), with the image size reported
+// from the job log and, on request, a cue sheet without subindices.
+
+#include "author/vcdxbuild_builder.h"
+#include "job/job_frame.h"
+
+#include <QString>
+#include <QWidget>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace torvane {
+
+class frm_mainmenu;
+
+// The texts and choices in which the two forms differ.
+struct BuildToolText {
+    const char* formName;
+    const char* caption;
+    const char* consoleTitle;
+    const char* folderWord;  // of the tool folder
+    const char* aboutCaption;
+    const char* aboutKey;
+    const char* frameTitle;
+    const char* frameText;
+    bool withNrg;  // the fork's third image type
+    VcdxbuildJob (*buildJob)(const VcdxbuildInputs&);
+};
+
+class BuildToolForm : public QWidget {
+    Q_OBJECT
+public:
+    BuildToolForm(frm_mainmenu& menu, Services& services, const BuildToolText& text);
+
+    void cmd_rip_Click();
+
+    QLabel* lbl_input;
+    QLineEdit* txt_input;
+    QPushButton* cmd_input;
+    QLabel* lbl_output;
+    QLineEdit* txt_output;
+    QPushButton* cmd_output;
+    QRadioButton* opt_cuebin;
+    QRadioButton* opt_toc;
+    QRadioButton* opt_nrg = nullptr;  // lkVCDxBUILD only
+    QCheckBox* chk_s2336;
+    QCheckBox* chk_subindex;
+    QPushButton* cmd_rip;
+    QPushButton* cmd_cancel;
+    QPushButton* cmd_about;
+    QGroupBox* Frame1;
+    QLabel* Label1;
+
+    QString crlf;
+    QString tool_folder;
+    QString cue_path;  // the cue sheet of the job; set only with CUE/BIN
+    JobFrame frame;    // console, script_path, log_path, job_running, Timer1
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildControls(const BuildToolText& text);
+    void connectControls(const BuildToolText& text);
+    void Form_Load();
+    void cmd_output_Click();
+    void applyInterlock();
+    VcdxbuildInputs inputs() const;
+    void setControlsEnabled(bool enabled);
+    void report();
+
+    frm_mainmenu& menu_;
+    Services& services_;
+    const BuildToolText& text_;
+};
+
+}  // namespace torvane

@@ -1,0 +1,71 @@
+// lkVCDxBUILD's job: VCDXBUILD's, with the fork's switches, its third image type (Nero)
+// and its own script lines.
+
+#include "author/vcdxbuild_builder.h"
+
+#include "job/job_paths.h"
+
+namespace torvane {
+
+namespace {
+
+const QChar Quote = QLatin1Char('"');
+
+QString Quoted(const QString& text) {
+    return Quote + text + Quote;
+}
+
+// The output less a final `extension`, in that exact case.
+QString Less(const QString& output, const char* extension) {
+    const QString end = QLatin1String(extension);
+    return output.endsWith(end) ? output.chopped(end.size()) : output;
+}
+
+QString FileSwitches(const VcdxbuildInputs& in) {
+    if (in.nrg)  // the extension is put back
+        return QStringLiteral("-b ") + Quoted(Less(in.output, ".nrg") + QStringLiteral(".nrg"));
+    if (!in.cueBin)  // no ".toc" is put back
+        return QStringLiteral("-c ") + Quoted(Less(in.output, ".toc"));
+    const QString base = Less(in.output, ".bin");
+    return QStringLiteral("-c ") + Quoted(base + QStringLiteral(".cue")) + QStringLiteral(" -b ") +
+           Quoted(base + QStringLiteral(".bin"));
+}
+
+}  // namespace
+
+QString LkImageType(const VcdxbuildInputs& in) {
+    if (in.nrg)
+        return QStringLiteral("nrg");
+    return in.cueBin ? QStringLiteral("cuebin") : QStringLiteral("tocimg");
+}
+
+VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in) {
+    // A tick left in the sector box, disabled under NRG, counts for nothing.
+    const QString sector = in.sector2336 && !in.nrg ? QStringLiteral("-s") : QString();
+    const OutputSplit output = SplitOutputPath(in.output, in.sep);
+    const QString inputFolder = SplitOutputPath(in.input, in.sep).output_dir;
+
+    VcdxbuildJob job;
+    if (in.cueBin && !in.nrg)
+        job.cue_path = Less(in.output, ".bin") + QStringLiteral(".cue");
+    JobPlan& plan = job.plan;
+    plan.logPath = output.output_dir + QStringLiteral("log.txt");
+    plan.commandLine = Quoted(in.toolFolder + QStringLiteral("lkvcdxbuild.exe")) +
+                       QStringLiteral(" -x ") + Quoted(in.input) + QStringLiteral(" -i ") +
+                       LkImageType(in) + QLatin1Char(' ') + FileSwitches(in) + QLatin1Char(' ') +
+                       sector + QStringLiteral(" -v 2 > ") + Quoted(plan.logPath);
+    plan.jobDir = inputFolder;
+    plan.scriptPath = inputFolder + QStringLiteral("run.bat");
+    plan.scriptLines =
+        ScriptOpening(QStringLiteral("lkVCDxBUILD Tool - Batch File (quelmora productions)"));
+    plan.scriptLines << QStringLiteral("echo Input XML File:   ") + in.input
+                     << QStringLiteral("echo Output directory: ") + output.output_dir
+                     << QStringLiteral("echo Output imagetype: ") + LkImageType(in)
+                     << QStringLiteral("echo Output image:     ") + output.fileName
+                     << QStringLiteral("echo Option switches:  ") + sector + QStringLiteral(" -v 2")
+                     << QStringLiteral("echo.") << PleaseWaitLines() << plan.commandLine
+                     << ScriptClosing();
+    return job;
+}
+
+}  // namespace torvane
