@@ -18,9 +18,8 @@ const char* const kBanner =
 using Fixture = DialogFixture<frm_cdxa2mpeg>;
 
 QByteArray LittleEndian32(quint32 value) {
-    QByteArray bytes(4, '\0');
-    qToLittleEndian(value, bytes.data());
-    return bytes;
+    const quint32 bytes = qToLittleEndian(value);
+    return QByteArray(reinterpret_cast<const char*>(&bytes), sizeof bytes);
 }
 
 // The MPEG track of the VCD image, from its first sector on (the cue sheet's INDEX 01),
