@@ -16,6 +16,8 @@ std::string* OptionField(ReadingArgs& args, const std::string& name) {
         return &args.binFile;
     if (name == "--nrg-file=")
         return &args.nrgFile;
+    if (name == "--cdrom-device=")
+        return &args.device;
     if (name == "--output-file=")
         return &args.outputFile;
     return nullptr;

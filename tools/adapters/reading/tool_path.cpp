@@ -13,7 +13,9 @@ namespace {
 
 constexpr char kHelperName[] = "torvane-reading.so";
 
-std::string OwnFolder() {
+}  // namespace
+
+std::string AdapterFolder() {
     char path[PATH_MAX];
     const ssize_t size = readlink("/proc/self/exe", path, sizeof path - 1);
     if (size <= 0)
@@ -22,8 +24,6 @@ std::string OwnFolder() {
     return self.substr(0, self.rfind('/'));
 }
 
-}  // namespace
-
 void RequireTool(const std::string& adapterName, const std::string& tool) {
     if (access(tool.c_str(), X_OK) != 0)
         adapter::Fail(adapterName, "cannot run " + tool + " (" + std::strerror(errno) +
@@ -31,7 +31,7 @@ void RequireTool(const std::string& adapterName, const std::string& tool) {
 }
 
 std::string LinkReadingHelper(const std::string& adapterName) {
-    const std::string helper = OwnFolder() + "/" + kHelperName;
+    const std::string helper = AdapterFolder() + "/" + kHelperName;
     if (access(helper.c_str(), R_OK) != 0)
         adapter::Fail(adapterName,
                       "the helper " + helper + " is missing (" + std::strerror(errno) + ")");

@@ -16,6 +16,9 @@ inline std::string ReadingToolPath(const std::string& name) {
 #endif
 }
 
+// The folder of the running adapter.
+std::string AdapterFolder();
+
 // Fails the adapter unless `tool` can be run.
 void RequireTool(const std::string& adapterName, const std::string& tool);
 

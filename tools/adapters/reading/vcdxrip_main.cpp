@@ -2,7 +2,8 @@
 // The descriptor goes to --output-file=, the media files into the current directory, and
 // the report to standard output, where vcdxrip's own INFO lines (raised by our log-level
 // helper) end in "   INFO: done" on success only. A BIN needs no cue sheet beside it,
-// and may have 2336-byte sectors (--sector-2336); an NRG image is read as it is. The
+// and may have 2336-byte sectors (--sector-2336); an NRG image, and a disc in a CD drive
+// (--cdrom-device=), are read as they are. The
 // descriptor's comment names the arguments given here, not those given to the tool.
 
 #include "tools/adapters/common/adapter_support.h"
@@ -20,15 +21,16 @@ using namespace reading;
 constexpr char kName[] = "vcdxrip.exe";
 const std::vector<std::string> kSwitches = {
     "-v", "-q", "--no-ext-psd", "--norip", "--nofiles", "--nosequences", "--nosegments"};
-const std::vector<std::string> kOptions = {"--bin-file=", "--nrg-file=", "--output-file="};
+const std::vector<std::string> kOptions = {
+    "--bin-file=", "--nrg-file=", "--cdrom-device=", "--output-file="};
 
 ReadingArgs ParseOrFail(int argc, char** argv) {
     std::string error;
     const auto args = ParseReadingArgs({argv + 1, argv + argc}, kSwitches, kOptions, &error);
     if (!args)
         adapter::Fail(kName, error);
-    if (args->binFile.empty() == args->nrgFile.empty())
-        adapter::Fail(kName, "give the image with either --bin-file= or --nrg-file=");
+    if (args->binFile.empty() + args->nrgFile.empty() + args->device.empty() != 2)
+        adapter::Fail(kName, "give one source: --bin-file=, --nrg-file= or --cdrom-device=");
     return *args;
 }
 
@@ -36,6 +38,8 @@ ReadingArgs ParseOrFail(int argc, char** argv) {
 std::string SourceSwitch(const ReadingArgs& args, std::vector<std::string>* standIns) {
     if (!args.nrgFile.empty())
         return "--nrg-file=" + args.nrgFile;
+    if (!args.device.empty())
+        return "--cdrom-device=" + args.device;
     std::string error;
     const auto view = PresentBinImage(args.binFile, args.sector2336, &error);
     if (!view)
@@ -58,8 +62,8 @@ int main(int argc, char** argv) {
         toolArgs.push_back("--output-file=" + args.outputFile);
     std::vector<std::string> standIns;
     toolArgs.push_back(SourceSwitch(args, &standIns));
-    // An NRG image states its own sector size; the switch is handed on as given.
-    if (!args.nrgFile.empty() && args.sector2336)
+    // An NRG image and a disc state their own sector size; the switch is handed on as given.
+    if (args.binFile.empty() && args.sector2336)
         toolArgs.push_back("--sector-2336");
 
     const ToolEnd end = RunRelayed(tool, toolArgs, helper, [&](std::string& line) {
