@@ -24,6 +24,10 @@ QString DonationUrl() {
     return kServer + QStringLiteral("/donators.html");
 }
 
+QString AspiLayerUrl() {
+    return kServer + QStringLiteral("/aspilayer.html");
+}
+
 QString AuthorMail() {
     return QStringLiteral("torvane@example.org");
 }

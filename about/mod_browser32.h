@@ -14,6 +14,7 @@ void SendMail(Desktop& desktop, const QString& address);
 // The program's own addresses.
 QString WebsiteUrl();    // .../torvane.html
 QString DonationUrl();   // .../donators.html
+QString AspiLayerUrl();  // .../aspilayer.html
 QString AuthorMail();
 
 }  // namespace torvane

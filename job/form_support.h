@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <Qt>
 #include <optional>
 
 class QLineEdit;
@@ -19,6 +20,12 @@ enum class BrowseKind { Open, Save };
 inline const QString kInformation = QStringLiteral("Information");
 inline const QString kXmlFilter = QStringLiteral("All Files (*.*)|*.*|XML Files (*.xml)|*.xml");
 inline const QString kBinFilter = QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin");
+inline const QString kImageFilter =
+    QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin|NRG Files (*.nrg)|*.nrg");
+
+// A fixed single border, without minimise and maximise buttons.
+constexpr Qt::WindowFlags kFixedDialogFlags =
+    Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
 
 // The browse handler: a file dialog with `filter` on its second entry, opened in
 // BrowseStartFolder; the chosen name goes unchanged into `target`; Cancel changes nothing.

@@ -6,6 +6,7 @@
 #include "platform/replace_file.h"
 
 #include <QFile>
+#include <QProcess>
 #include <cstring>
 
 namespace torvane {
@@ -37,6 +38,17 @@ bool ConfirmQuitWhileRunning(MessageBoxes& boxes) {
                            QStringLiteral("The command is still running!  Are you") +
                                QLatin1Char('\r') + QStringLiteral("sure that you want to quit?")) !=
            vbNo;
+}
+
+bool StartHiddenScript(const QString& scriptPath, const QString& workDir) {
+    QProcess process;
+    process.setProgram(CConsole::interpreterPath());
+    process.setArguments({scriptPath});
+    process.setWorkingDirectory(workDir);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
 }
 
 }  // namespace torvane

@@ -22,6 +22,10 @@ QString WriteJobScript(const JobPlan& plan);
 std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& title,
                                           const QString& scriptPath);
 
+// Starts the job script at `scriptPath` in `workDir` with no console and no window, and
+// goes on at once, holding nothing of the process; false when it cannot be started.
+bool StartHiddenScript(const QString& scriptPath, const QString& workDir);
+
 // The unload guard's question while a job runs; true when the user answers Yes.
 bool ConfirmQuitWhileRunning(MessageBoxes& boxes);
 

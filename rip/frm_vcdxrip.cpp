@@ -18,14 +18,6 @@
 
 namespace torvane {
 
-namespace {
-const QString kInputFilter =
-    QStringLiteral("All Files (*.*)|*.*|BIN Files (*.bin)|*.bin|NRG Files (*.nrg)|*.nrg");
-// A fixed single border, without minimise and maximise buttons.
-constexpr Qt::WindowFlags kFixedDialogFlags =
-    Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-}  // namespace
-
 frm_vcdxrip::frm_vcdxrip(frm_mainmenu& menu, Services& services)
     : QWidget(nullptr, kFixedDialogFlags),
       frame(*this, services, QStringLiteral("Torvane -- VCDXRIP Tool"),
@@ -83,7 +75,7 @@ void frm_vcdxrip::buildOptions(ToolForm& form) {
 
 void frm_vcdxrip::connectControls() {
     connect(cmd_input, &QPushButton::clicked, this,
-            [this] { Browse(services_.files, BrowseKind::Open, kInputFilter, *txt_input); });
+            [this] { Browse(services_.files, BrowseKind::Open, kImageFilter, *txt_input); });
     connect(cmd_output, &QPushButton::clicked, this,
             [this] { Browse(services_.files, BrowseKind::Save, kXmlFilter, *txt_output); });
     connect(chk_norip, &QCheckBox::clicked, this, &frm_vcdxrip::chk_norip_Click);

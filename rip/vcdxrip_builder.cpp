@@ -77,8 +77,7 @@ JobPlan BuildVcdxripJob(const VcdxripInputs& in) {
                      << QStringLiteral("echo Output XML file: ") + output.fileName
                      << QStringLiteral("echo Option switches: ") + VcdxripOptions(in) +
                             QStringLiteral(" -v")
-                     << QStringLiteral("echo.")
-                     << PleaseWaitLines() << plan.commandLine;
+                     << QStringLiteral("echo.") << PleaseWaitLines() << plan.commandLine;
     plan.scriptLines << ScriptClosing();
     return plan;
 }

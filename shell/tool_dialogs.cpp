@@ -9,6 +9,7 @@
 #include "inspect/frm_cdxa2mpeg.h"
 #include "inspect/frm_vcddebug.h"
 #include "inspect/frm_vcdxminfo.h"
+#include "rip/frm_lkvcdxrip.h"
 #include "rip/frm_vcdxrip.h"
 #include "shell/mod_mainmenu.h"
 
@@ -36,6 +37,7 @@ const std::map<QString, ToolDialogFactory>& ToolDialogFactories() {
         {QStringLiteral("lkvcdxbuild"), Factory<frm_lkvcdxbuild>()},
         {QStringLiteral("vcdimager"), Factory<frm_vcdimager>()},
         {QStringLiteral("vcdxrip"), Factory<frm_vcdxrip>()},
+        {QStringLiteral("lkvcdxrip"), Factory<frm_lkvcdxrip>()},
         {QStringLiteral("subindex"), Factory<frm_subindex>()},
         {QStringLiteral("regen"), Factory<frm_regen>()},
     };

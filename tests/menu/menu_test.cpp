@@ -27,7 +27,7 @@ private slots:
         QTest::newRow("vcdimager") << int(Qt::Key_V) << "VCDIMAGER - Torvane";
         QTest::newRow("vcdxgen") << int(Qt::Key_G) << "VCDXGEN - Torvane";
         QTest::newRow("lkvcdxbuild") << 0 << "lkVCDxBUILD - Torvane";
-        QTest::newRow("lkvcdxrip") << 0 << "";  // no dialog yet: the button is disabled
+        QTest::newRow("lkvcdxrip") << 0 << "lkVCDxRIP - Torvane";
     }
 
     void buttons() {
