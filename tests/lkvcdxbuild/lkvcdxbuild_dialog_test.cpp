@@ -1,4 +1,5 @@
-// The lkVCDxBUILD dialog: the fork's command line, and a real Nero image ripped back.
+// The lkVCDxBUILD dialog: the fork's command line, and a real Nero image ripped back by
+// lkvcdxrip.exe.
 
 #include "author/frm_lkvcdxbuild.h"
 #include "tests/support/job_driver.h"
@@ -50,7 +51,10 @@ private slots:
         QVERIFY(!f.dialog.chk_s2336->isEnabled() && !f.dialog.chk_subindex->isEnabled());
         f.dialog.findChild<QAbstractButton*>("opt_cuebin")->click();
         QVERIFY(f.dialog.chk_s2336->isEnabled() && f.dialog.chk_s2336->isChecked());
-        QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), {"--nrg-file=-d é.nrg"}, folder).exitCode, 0);
+        QCOMPARE(RunProgram(TORVANE_APP_DIR "/lkVCDImager/lkvcdxrip.exe",
+                            {"/o", folder, "/n", "-d é.nrg"}, folder)
+                     .exitCode,
+                 0);
         QVERIFY(ReadBytes(folder + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")));
     }
 };
