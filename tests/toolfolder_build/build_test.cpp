@@ -115,18 +115,18 @@ private slots:
                      log.constData());
     }
 
-    // The fork's stand-in as the lkVCDxBUILD job starts it; a BIN or a real NRG rips back into
-    // the clips (Debian's vcdxrip rips nothing from a TOC image of several files).
+    // The fork's builder as the lkVCDxBUILD job starts it; its reader takes a BIN or a real NRG
+    // back into the clips (Debian's vcdxrip rips nothing from a TOC image of several files).
     void lkvcdxbuildMakesEachImageType_data() {
         QTest::addColumn<QByteArray>("switches");  // the image type and file switches
         QTest::addColumn<QString>("made");         // empty: nothing may be made
-        QTest::addColumn<QStringList>("rip");      // vcdxrip.exe's source, if it can rip it
+        QTest::addColumn<QStringList>("rip");      // lkvcdxrip.exe's switches, if it can rip it
         QTest::newRow("cuebin, 2336-byte sectors")
             << QByteArray("cuebin -c \"m.cue\" -b \"m.bin\" -s") << "m.cue"
-            << QStringList{"--sector-2336", "--bin-file=m.bin"};
+            << QStringList{"/s", "/o", ".", "/b", "m.bin"};
         QTest::newRow("tocimg") << QByteArray("tocimg -c \"m\"") << "m.toc" << QStringList();
         QTest::newRow("nrg: a real Nero image")
-            << QByteArray("nrg -b \"m.nrg\" ") << "m.nrg" << QStringList{"--nrg-file=m.nrg"};
+            << QByteArray("nrg -b \"m.nrg\" ") << "m.nrg" << QStringList{"/o", ".", "/n", "m.nrg"};
         QTest::newRow("an unknown type builds nothing")
             << QByteArray("iso -b \"m.iso\"") << "" << QStringList();
     }
@@ -147,7 +147,7 @@ private slots:
                                : QFile::exists(out + "/" + made));
         if (rip.isEmpty())
             return;
-        QCOMPARE(RunProgram(AppTool("vcdxrip.exe"), rip, out).exitCode, 0);
+        QCOMPARE(RunProgram(TORVANE_APP_DIR "/lkVCDImager/lkvcdxrip.exe", rip, out).exitCode, 0);
         QVERIFY(ReadBytes(out + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")) &&
                 ReadBytes(out + "/avseq02.mpg") == ReadBytes(Media("clip-vcd.mpg")));
     }
