@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <cstdio>
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
@@ -19,5 +20,10 @@ int main(int argc, char* argv[]) {
 
     torvane::frm_mainmenu menu(services, QDir::currentPath());
     menu.show();
+    // A scripted start, for the test of an installed program: where it runs, then the end.
+    if (qEnvironmentVariableIsSet("TORVANE_EXIT_AT_START")) {
+        std::printf("application folder: %s\n", qPrintable(QDir::currentPath()));
+        return 0;
+    }
     return app.exec();
 }
