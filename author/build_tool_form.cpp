@@ -36,12 +36,12 @@ BuildToolForm::BuildToolForm(frm_mainmenu& menu, Services& services, const Build
     setObjectName(QLatin1String(text.formName));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QString::fromUtf8(text.caption));
-    buildControls(text);
-    connectControls(text);
+    buildControls();
+    connectControls();
     Form_Load();
 }
 
-void BuildToolForm::buildControls(const BuildToolText& text) {
+void BuildToolForm::buildControls() {
     ToolForm form(*this);
     lbl_input = form.label("lbl_input", "Load XML file:", "Specify the input XML file.");
     txt_input = form.pathBox("txt_input", "Specify the input file name.");
@@ -59,7 +59,7 @@ void BuildToolForm::buildControls(const BuildToolText& text) {
     opt_toc =
         form.optionButton("opt_toc", "CDRDAO/TOC",
                           "The TOC format -- the CUE/BIN format is better supported under Win32.");
-    if (text.withNrg)
+    if (text_.withNrg)
         opt_nrg = form.optionButton("opt_nrg", "NRG (Nero)", "The Nero Burning Rom image format");
     opt_cuebin->setChecked(true);
     form.addOptionRow({opt_cuebin, opt_toc});
@@ -71,12 +71,12 @@ void BuildToolForm::buildControls(const BuildToolText& text) {
                                  "NOT RECOMMENDED unless you have problems with subindicies");
     form.addOptionRow({chk_s2336, chk_subindex});
 
-    Frame1 = form.descriptionFrame(text.frameTitle, text.frameText, QStyle::SP_DriveCDIcon);
+    Frame1 = form.descriptionFrame(text_.frameTitle, text_.frameText, QStyle::SP_DriveCDIcon);
     Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
 
     cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
     cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
-    cmd_about = form.button("cmd_about", text.aboutCaption, text.aboutCaption);
+    cmd_about = form.button("cmd_about", text_.aboutCaption, text_.aboutCaption);
     form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, QStyle::SP_FileDialogInfoView);
     if (opt_nrg)
         form.finish({cmd_input, cmd_output, opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex,
@@ -86,7 +86,7 @@ void BuildToolForm::buildControls(const BuildToolText& text) {
                      cmd_cancel, cmd_about});
 }
 
-void BuildToolForm::connectControls(const BuildToolText& text) {
+void BuildToolForm::connectControls() {
     connect(cmd_input, &QPushButton::clicked, this,
             [this] { Browse(services_.files, BrowseKind::Open, kXmlFilter, *txt_input); });
     connect(cmd_output, &QPushButton::clicked, this, &BuildToolForm::cmd_output_Click);
@@ -97,7 +97,7 @@ void BuildToolForm::connectControls(const BuildToolText& text) {
             connect(type, &QRadioButton::toggled, this, &BuildToolForm::applyInterlock);
     connect(cmd_rip, &QPushButton::clicked, this, &BuildToolForm::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
-    const QString aboutKey = QString::fromUtf8(text.aboutKey);
+    const QString aboutKey = QString::fromUtf8(text_.aboutKey);
     connect(cmd_about, &QPushButton::clicked, this, [aboutKey] { ShowComponentAbout(aboutKey); });
     MakeCancelButton(*this, *cmd_cancel);
 }

@@ -67,8 +67,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildControls(const BuildToolText& text);
-    void connectControls(const BuildToolText& text);
+    void buildControls();
+    void connectControls();
     void Form_Load();
     void cmd_output_Click();
     void applyInterlock();

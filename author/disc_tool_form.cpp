@@ -32,11 +32,11 @@ DiscToolForm::DiscToolForm(frm_mainmenu& menu, Services& services, const DiscToo
     setObjectName(QLatin1String(text.formName));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QString::fromUtf8(text.caption));
-    buildControls(text);
+    buildControls();
     Form_Load();
 }
 
-void DiscToolForm::buildControls(const DiscToolText& text) {
+void DiscToolForm::buildControls() {
     ToolForm form(*this);
     lbl_input = form.label("lbl_input", "Load source MPEG files:", "Load the source MPEG files");
     Label2 = form.label("Label2", "Number of MPEG files selected:",
@@ -48,9 +48,9 @@ void DiscToolForm::buildControls(const DiscToolText& text) {
     cmd_input = form.button("cmd_input", "Add...", "Add MPEG files to the S/VCD");
     form.addControlRow({lbl_input});
     form.addControlRow({Label2, txt_inputnumber, cmd_input});
-    lbl_output = form.label("lbl_output", text.outputLabel, text.outputLabelTip);
-    txt_output = form.pathBox("txt_output", text.outputTip);
-    cmd_output = form.button("cmd_output", "Browse...", text.outputBrowseTip);
+    lbl_output = form.label("lbl_output", text_.outputLabel, text_.outputLabelTip);
+    txt_output = form.pathBox("txt_output", text_.outputTip);
+    cmd_output = form.button("cmd_output", "Browse...", text_.outputBrowseTip);
     form.addPathRow(lbl_output, txt_output, cmd_output);
 
     Label3 = form.label("Label3", "S/VCD Type:", "Choose the type of disc you want");
@@ -85,7 +85,7 @@ void DiscToolForm::buildControls(const DiscToolText& text) {
     txt_volumenumber = form.textBox("txt_volumenumber", numberTip, "1", 0);
     form.addOptionRow({Label6, txt_volumecount, Label7, txt_volumenumber});
 
-    firstBox = form.checkBox(text.firstBoxName, text.firstBoxCaption, text.firstBoxTip);
+    firstBox = form.checkBox(text_.firstBoxName, text_.firstBoxCaption, text_.firstBoxTip);
     chk_brokensvcd =
         form.checkBox("chk_brokensvcd", "Broken SVCD mode",
                       "Check to enable compatibility mode for some \"broken\" SVCD players");
@@ -94,18 +94,18 @@ void DiscToolForm::buildControls(const DiscToolText& text) {
     chk_update->setChecked(true);
     form.addOptionRow({firstBox, chk_brokensvcd, chk_update});
 
-    Frame1 = form.descriptionFrame(text.frameTitle, text.frameText, text.picture);
+    Frame1 = form.descriptionFrame(text_.frameTitle, text_.frameText, text_.picture);
     Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
     cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
     cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
-    cmd_about = form.button("cmd_about", text.aboutCaption, text.aboutCaption);
-    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, text.picture);
+    cmd_about = form.button("cmd_about", text_.aboutCaption, text_.aboutCaption);
+    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, text_.picture);
     form.finish({cmd_input, cmd_output, opt_vcd11, opt_vcd2, opt_svcd, opt_hqvcd, txt_volumelabel,
                  txt_albumid, txt_volumecount, txt_volumenumber, firstBox, chk_brokensvcd,
                  chk_update, cmd_rip, cmd_cancel, cmd_about});
 
-    const QString filter = *text.outputFilter;
-    const QString aboutKey = QString::fromUtf8(text.aboutKey);
+    const QString filter = *text_.outputFilter;
+    const QString aboutKey = QString::fromUtf8(text_.aboutKey);
     connect(cmd_input, &QPushButton::clicked, this, &DiscToolForm::cmd_input_Click);
     connect(cmd_output, &QPushButton::clicked, this,
             [this, filter] { Browse(services_.files, BrowseKind::Save, filter, *txt_output); });

@@ -96,7 +96,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildControls(const DiscToolText& text);
+    void buildControls();
     void Form_Load();
     DiscType selectedType() const;
     DiscSettings settings() const;

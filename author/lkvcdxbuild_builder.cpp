@@ -31,13 +31,14 @@ QString FileSwitches(const VcdxbuildInputs& in) {
            Quoted(base + QStringLiteral(".bin"));
 }
 
-}  // namespace
-
+// "cuebin", "tocimg" or "nrg": the fork's -i argument.
 QString LkImageType(const VcdxbuildInputs& in) {
     if (in.nrg)
         return QStringLiteral("nrg");
     return in.cueBin ? QStringLiteral("cuebin") : QStringLiteral("tocimg");
 }
+
+}  // namespace
 
 VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in) {
     // A tick left in the sector box, disabled under NRG, counts for nothing.

@@ -42,8 +42,6 @@ VcdxbuildJob BuildVcdxbuildJob(const VcdxbuildInputs& in);
 
 // The same job for lkVCDxBUILD: the fork's switches and script lines.
 VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in);
-// "cuebin", "tocimg" or "nrg".
-QString LkImageType(const VcdxbuildInputs& in);
 
 // Whether the new cue sheet loses its subindices after a successful job.
 bool VcdxbuildRewritesCue(const VcdxbuildInputs& in);
