@@ -76,8 +76,6 @@ QString ListFilePath(const DiscSettings& disc) {
 JobPlan BuildListToolJob(const DiscSettings& disc, const ListToolJobText& text) {
     const OutputSplit split = SplitOutputPath(disc.output, disc.sep);
     JobPlan plan;
-    plan.jobDir = disc.toolFolder;
-    plan.scriptPath = disc.toolFolder + QStringLiteral("run.bat");
     plan.logPath = split.output_dir + QStringLiteral("log.txt");
     plan.commandLine =
         text.tool + QLatin1Char(' ') + text.optionSwitches + QStringLiteral(" -v  ") +
@@ -87,7 +85,7 @@ JobPlan BuildListToolJob(const DiscSettings& disc, const ListToolJobText& text) 
         QStringLiteral(" --volume-number=") + QString::number(disc.volumeNumber.toInt()) +
         QLatin1Char(' ') + text.outputSwitches + QStringLiteral(" @list.txt > ") + Quote +
         plan.logPath + Quote;
-    plan.scriptLines = ScriptOpening(text.banner);
+    PlaceJob(plan, disc.toolFolder, text.banner);
     plan.scriptLines << QStringLiteral("echo Ouput directory: ") + split.output_dir
                      << text.outputEcho + split.fileName
                      << QStringLiteral("echo Option switches: ") + text.optionSwitches +

@@ -55,10 +55,8 @@ VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in) {
                        QStringLiteral(" -x ") + Quoted(in.input) + QStringLiteral(" -i ") +
                        LkImageType(in) + QLatin1Char(' ') + FileSwitches(in) + QLatin1Char(' ') +
                        sector + QStringLiteral(" -v 2 > ") + Quoted(plan.logPath);
-    plan.jobDir = inputFolder;
-    plan.scriptPath = inputFolder + QStringLiteral("run.bat");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("lkVCDxBUILD Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, inputFolder,
+             QStringLiteral("lkVCDxBUILD Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input XML File:   ") + in.input
                      << QStringLiteral("echo Output directory: ") + output.output_dir
                      << QStringLiteral("echo Output imagetype: ") + LkImageType(in)

@@ -70,10 +70,8 @@ VcdxbuildJob BuildVcdxbuildJob(const VcdxbuildInputs& in) {
     // The log goes beside the image, and the redirection names it in full.
     plan.logPath = output.output_dir + QStringLiteral("log.txt");
     plan.commandLine = CommandLine(in, sw, plan.logPath);
-    plan.jobDir = inputFolder;
-    plan.scriptPath = inputFolder + QStringLiteral("run.bat");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("VCDXBUILD Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, inputFolder,
+             QStringLiteral("VCDXBUILD Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input XML File:   ") + in.input
                      << QStringLiteral("echo Output directory: ") + output.output_dir
                      << QStringLiteral("echo Output imagetype: ") +

@@ -15,10 +15,8 @@ JobPlan BuildCdxa2mpegJob(const Cdxa2mpegInputs& in) {
     plan.commandLine = Quote + in.toolFolder + QStringLiteral("cdxa2mpeg.exe") + Quote +
                        QLatin1Char(' ') + Quote + in.input + Quote + QLatin1Char(' ') + Quote +
                        in.output + Quote;
-    plan.jobDir = split.output_dir;
-    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("CDXA2MPEG Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, split.output_dir,
+             QStringLiteral("CDXA2MPEG Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input S/VCD File:  ") + in.input
                      << QStringLiteral("echo Output MPEG File:  ") + split.fileName
                      << QStringLiteral("echo.") << plan.commandLine;

@@ -24,10 +24,8 @@ JobPlan BuildVcddebugJob(const VcddebugInputs& in) {
                        QLatin1Char(' ') + switches + QLatin1Char(' ') +
                        QStringLiteral("--bin-file=") + Quote + in.input + Quote +
                        QStringLiteral(" > ") + Quote + in.output + Quote;
-    plan.jobDir = split.output_dir;
-    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("VCDDEBUG Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, split.output_dir,
+             QStringLiteral("VCDDEBUG Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input BIN File:   ") + in.input
                      << QStringLiteral("echo Output Text File: ") + split.fileName
                      << QStringLiteral("echo Option switches:  ") + switches

@@ -29,10 +29,8 @@ JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in) {
                        QLatin1Char(' ') + switches + QStringLiteral(" -v  -p ") +
                        QStringLiteral("--output-file=") + Quote + in.output + Quote +
                        QLatin1Char(' ') + Quote + in.input + Quote;
-    plan.jobDir = split.output_dir;
-    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, split.output_dir,
+             QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input MPEG File:  ") + in.input
                      << QStringLiteral("echo Output XML File:  ") + split.fileName
                      << QStringLiteral("echo Option switches:  ") + switches +

@@ -1,5 +1,7 @@
 #include "job/job_paths.h"
 
+#include "job/job_plan.h"
+
 #include <unistd.h>
 #include <QFile>
 #include <QFileInfo>
@@ -93,6 +95,12 @@ namespace torvane {
 QStringList ScriptOpening(const QString& banner) {
     const QString bannerLine = QStringLiteral("echo ") + banner;
     return {QStringLiteral("echo off"), QStringLiteral("cls"), bannerLine, RuleLine(bannerLine)};
+}
+
+void PlaceJob(JobPlan& plan, const QString& folder, const QString& banner) {
+    plan.jobDir = folder;
+    plan.scriptPath = folder + QStringLiteral("run.bat");
+    plan.scriptLines = ScriptOpening(banner);
 }
 
 QStringList PleaseWaitLines() {

@@ -60,6 +60,11 @@ namespace torvane {
 // as many '=' as the banner has characters.
 QStringList ScriptOpening(const QString& banner);
 
+// Places a tool's job in `folder`: it runs there, from its script run.bat, whose first
+// lines are ScriptOpening(banner).
+struct JobPlan;
+void PlaceJob(JobPlan& plan, const QString& folder, const QString& banner);
+
 // The two lines that ask for patience before a long tool runs.
 QStringList PleaseWaitLines();
 

@@ -66,14 +66,12 @@ JobPlan BuildLkvcdxripJob(const LkvcdxripInputs& in) {
     const OutputSplit split = SplitOutputPath(in.output, in.sep);
     const QString input = LkvcdxripInputSwitch(in);
     JobPlan plan;
-    plan.jobDir = split.output_dir;
-    plan.scriptPath = split.output_dir + QStringLiteral("run.bat");
     plan.logPath = split.output_dir + QStringLiteral("log.txt");
     plan.commandLine = Quoted(in.toolFolder + QStringLiteral("lkvcdxrip.exe ")) + QLatin1Char(' ') +
                        Options(in) + QLatin1Char(' ') + OutputSwitch(split) + QLatin1Char(' ') +
                        input + QStringLiteral(" > log.txt");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("lkVCDxRIP Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, split.output_dir,
+             QStringLiteral("lkVCDxRIP Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input image:     ") + input.mid(3)
                      << QStringLiteral("echo Ouput directory: ") + split.output_dir
                      << QStringLiteral("echo Output XML file: ") + split.fileName

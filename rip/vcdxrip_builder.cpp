@@ -67,11 +67,9 @@ JobPlan BuildVcdxripJob(const VcdxripInputs& in) {
     const OutputSplit output = SplitOutputPath(in.output, in.sep);
     JobPlan plan;
     plan.commandLine = CommandLine(in);
-    plan.jobDir = output.output_dir;
-    plan.scriptPath = output.output_dir + QStringLiteral("run.bat");
     plan.logPath = output.output_dir + QStringLiteral("log.txt");
-    plan.scriptLines =
-        ScriptOpening(QStringLiteral("VCDXRIP Tool - Batch File (quelmora productions)"));
+    PlaceJob(plan, output.output_dir,
+             QStringLiteral("VCDXRIP Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input image:     ") + in.input
                      << QStringLiteral("echo Ouput directory: ") + output.output_dir
                      << QStringLiteral("echo Output XML file: ") + output.fileName
