@@ -11,10 +11,6 @@ namespace {
 const QChar CR = QLatin1Char('\r');
 const QByteArray kWarning = QByteArrayLiteral("++ WARN: INFO.SVD: signature not found");
 
-QString Quoted(const QString& text) {
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
 QString LogSwitch(const RegenInputs& in) {
     return QStringLiteral(" > ") + Quoted(RegenOutputDir(in) + QStringLiteral("log.txt"));
 }
@@ -32,8 +28,7 @@ JobPlan Plan(const RegenInputs& in, const QString& jobDir, const QString& comman
 QStringList PhaseScript(int phase, const QString& commandLine) {
     QStringList lines = ScriptOpening(
         QStringLiteral("CUE/BIN Regenerator - Phase %1 (quelmora productions)").arg(phase));
-    lines << QStringLiteral("echo.")
-          << PleaseWaitLines() << commandLine << QStringLiteral("echo.")
+    lines << QStringLiteral("echo.") << PleaseWaitLines() << commandLine << QStringLiteral("echo.")
           << QStringLiteral("echo Finished!") << QStringLiteral("cls")
           << QStringLiteral("echo ***end***");
     return lines;
@@ -67,9 +62,7 @@ QString RegenWorkFolder(const RegenInputs& in) {
 }
 
 QString RegenCueName(const QString& output) {
-    const QString base =
-        output.endsWith(QLatin1String(".bin")) ? output.left(output.size() - 4) : output;
-    return base + QStringLiteral(".cue");
+    return WithoutExtension(output, QStringLiteral(".bin")) + QStringLiteral(".cue");
 }
 
 JobPlan BuildRegenDetectJob(const RegenInputs& in, bool secondAttempt) {

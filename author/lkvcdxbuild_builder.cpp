@@ -9,24 +9,13 @@ namespace torvane {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
-
-QString Quoted(const QString& text) {
-    return Quote + text + Quote;
-}
-
-// The output less a final `extension`, in that exact case.
-QString Less(const QString& output, const char* extension) {
-    const QString end = QLatin1String(extension);
-    return output.endsWith(end) ? output.chopped(end.size()) : output;
-}
-
 QString FileSwitches(const VcdxbuildInputs& in) {
     if (in.nrg)  // the extension is put back
-        return QStringLiteral("-b ") + Quoted(Less(in.output, ".nrg") + QStringLiteral(".nrg"));
+        return QStringLiteral("-b ") +
+               Quoted(WithoutExtension(in.output, QStringLiteral(".nrg")) + QStringLiteral(".nrg"));
     if (!in.cueBin)  // no ".toc" is put back
-        return QStringLiteral("-c ") + Quoted(Less(in.output, ".toc"));
-    const QString base = Less(in.output, ".bin");
+        return QStringLiteral("-c ") + Quoted(WithoutExtension(in.output, QStringLiteral(".toc")));
+    const QString base = WithoutExtension(in.output, QStringLiteral(".bin"));
     return QStringLiteral("-c ") + Quoted(base + QStringLiteral(".cue")) + QStringLiteral(" -b ") +
            Quoted(base + QStringLiteral(".bin"));
 }
@@ -48,7 +37,7 @@ VcdxbuildJob BuildLkvcdxbuildJob(const VcdxbuildInputs& in) {
 
     VcdxbuildJob job;
     if (in.cueBin && !in.nrg)
-        job.cue_path = Less(in.output, ".bin") + QStringLiteral(".cue");
+        job.cue_path = WithoutExtension(in.output, QStringLiteral(".bin")) + QStringLiteral(".cue");
     JobPlan& plan = job.plan;
     plan.logPath = output.output_dir + QStringLiteral("log.txt");
     plan.commandLine = Quoted(in.toolFolder + QStringLiteral("lkvcdxbuild.exe")) +

@@ -1,5 +1,6 @@
 #include "author/vcdimager_builder.h"
 
+#include "job/job_paths.h"
 #include "shell/image_size_report.h"
 #include "shell/mod_general.h"
 
@@ -7,15 +8,15 @@ namespace torvane {
 
 namespace {
 const QChar Quote = QLatin1Char('"');
-}  // namespace
-
-QString VcdimagerBaseName(const QString& output) {
-    return output.endsWith(QLatin1String(".bin")) ? output.chopped(4) : output;
-}
-
 QString VcdimagerOptionSwitches(const VcdimagerInputs& in) {
     return (in.sector2336 ? QStringLiteral("--sector-2336") : QString()) +
            SvcdOptionSwitches(in.disc);
+}
+
+}  // namespace
+
+QString VcdimagerBaseName(const QString& output) {
+    return WithoutExtension(output, QStringLiteral(".bin"));
 }
 
 JobPlan BuildVcdimagerJob(const VcdimagerInputs& in) {

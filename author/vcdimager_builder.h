@@ -14,9 +14,6 @@ struct VcdimagerInputs {
 // The output less a final ".bin" (that exact case), to which ".cue" and ".bin" are added.
 QString VcdimagerBaseName(const QString& output);
 
-// "--sector-2336", then the SVCD switches, as ticked and counting.
-QString VcdimagerOptionSwitches(const VcdimagerInputs& in);
-
 JobPlan BuildVcdimagerJob(const VcdimagerInputs& in);
 
 ListToolReport BuildVcdimagerReport(const std::optional<QByteArray>& log);

@@ -8,20 +8,10 @@ namespace torvane {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
 const QChar CR = QLatin1Char('\r');
 const QByteArray kSuccessLine = QByteArrayLiteral("   INFO: finished ok");
 // "--image-type=" is dropped where the script names the image type.
 constexpr int kImageTypeWordPos = 13;
-
-QString Quoted(const QString& text) {
-    return Quote + text + Quote;
-}
-
-// The name less a trailing `extension`; the comparison is exact, so ".BIN" stays.
-QString BaseName(const QString& output, const QString& extension) {
-    return output.endsWith(extension, Qt::CaseSensitive) ? output.left(output.size() - 4) : output;
-}
 
 QString CommandLine(const VcdxbuildInputs& in, const VcdxbuildSwitches& sw,
                     const QString& logPath) {
@@ -43,14 +33,14 @@ QString VcdxbuildValidation(const VcdxbuildInputs& in) {
 VcdxbuildSwitches BuildVcdxbuildSwitches(const VcdxbuildInputs& in) {
     VcdxbuildSwitches sw;
     if (in.cueBin) {
-        const QString base = BaseName(in.output, QStringLiteral(".bin"));
+        const QString base = WithoutExtension(in.output, QStringLiteral(".bin"));
         sw.cuePath = base + QStringLiteral(".cue");
         sw.imageType = QStringLiteral("--image-type=bincue");
         sw.files = QStringLiteral("--cue-file=") + Quoted(base + QStringLiteral(".cue")) +
                    QStringLiteral(" --bin-file=") + Quoted(base + QStringLiteral(".bin"));
     } else {
         // The switch carries the name without ".toc": the tool adds it.
-        const QString base = BaseName(in.output, QStringLiteral(".toc"));
+        const QString base = WithoutExtension(in.output, QStringLiteral(".toc"));
         sw.imageType = QStringLiteral("--image-type=cdrdao");
         sw.files = QStringLiteral("--cdrdao-file=") + Quoted(base);
     }

@@ -2,14 +2,18 @@
 
 namespace torvane {
 
-bool NoPbcCounts(DiscType type) {
-    return type != DiscType::Vcd11;
-}
+namespace {
 
 QString VcdxgenOptionSwitches(const VcdxgenInputs& in) {
     const QString noPbc =
         NoPbcCounts(in.disc.type) && in.noPbc ? QStringLiteral("--nopbc") : QString();
     return noPbc + SvcdOptionSwitches(in.disc);
+}
+
+}  // namespace
+
+bool NoPbcCounts(DiscType type) {
+    return type != DiscType::Vcd11;
 }
 
 JobPlan BuildVcdxgenJob(const VcdxgenInputs& in) {

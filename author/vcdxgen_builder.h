@@ -14,9 +14,6 @@ struct VcdxgenInputs {
 // Whether chk_nopbc is enabled, and so counts: with every type but VCD 1.1.
 bool NoPbcCounts(DiscType type);
 
-// "--nopbc", then the SVCD switches, as ticked and counting.
-QString VcdxgenOptionSwitches(const VcdxgenInputs& in);
-
 JobPlan BuildVcdxgenJob(const VcdxgenInputs& in);
 
 ListToolReport BuildVcdxgenReport(const std::optional<QByteArray>& log);

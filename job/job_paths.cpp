@@ -32,6 +32,14 @@ QString JoinScriptLines(const QStringList& lines) {
     return lines.join(QStringLiteral("\r\n"));
 }
 
+QString Quoted(const QString& text) {
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString WithoutExtension(const QString& name, const QString& extension) {
+    return name.endsWith(extension) ? name.chopped(extension.size()) : name;
+}
+
 QString RuleLine(const QString& bannerLine) {
     const QString echo = QStringLiteral("echo ");
     const int width = bannerLine.startsWith(echo) ? bannerLine.size() - echo.size() : 0;

@@ -26,6 +26,12 @@ OutputSplit SplitOutputPath(const QString& path, QChar sep);
 // separator: ToolFolder("/opt/app", "VCDImager", '/') == "/opt/app/VCDImager/".
 QString ToolFolder(const QString& appPath, const QString& folderWord, QChar sep);
 
+// `text` between double quotes, as the command lines carry paths.
+QString Quoted(const QString& text);
+
+// `name` less a final `extension`, compared exactly: ".BIN" is no ".bin".
+QString WithoutExtension(const QString& name, const QString& extension);
+
 // Lines joined by CR LF, with no line end after the last.
 QString JoinScriptLines(const QStringList& lines);
 

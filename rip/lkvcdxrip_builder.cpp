@@ -8,13 +8,8 @@ namespace torvane {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
 // The drive entry ends in its address, "1, 0, 0".
 constexpr int kAddressWidth = 7;
-
-QString Quoted(const QString& text) {
-    return Quote + text + Quote;
-}
 
 QString Options(const LkvcdxripInputs& in) {
     return QString(in.sector2336 ? QStringLiteral(" /s") : QString()) +
@@ -26,6 +21,21 @@ QString Options(const LkvcdxripInputs& in) {
 QString OutputSwitch(const OutputSplit& split) {
     return QStringLiteral("/o ") +
            Quoted(split.output_dir.chopped(split.output_dir.isEmpty() ? 0 : 1));
+}
+
+QString LkvcdxripInputSwitch(const LkvcdxripInputs& in) {
+    if (in.fromDrive) {
+        // "1, 0, 0" becomes "1,0,0": the two blanks go.
+        const QString address = in.drive.right(kAddressWidth);
+        return QStringLiteral("/c ") + address.left(2) + address.mid(3, 2) + address.right(1) +
+               QStringLiteral(" /d ") + in.driver;
+    }
+    const QString extension = in.input.right(4);
+    if (extension == QLatin1String(".bin"))
+        return QStringLiteral("/b ") + Quoted(in.input);
+    if (extension == QLatin1String(".nrg"))
+        return QStringLiteral("/n ") + Quoted(in.input);
+    return {};
 }
 
 }  // namespace
@@ -44,21 +54,6 @@ QString LkvcdxripValidation(const LkvcdxripInputs& in) {
         return QStringLiteral(
             "The CD Image has not been recognised as either\rCUE/BIN image "
             "type or NRG (Nero Burning Rom)!");
-    return {};
-}
-
-QString LkvcdxripInputSwitch(const LkvcdxripInputs& in) {
-    if (in.fromDrive) {
-        // "1, 0, 0" becomes "1,0,0": the two blanks go.
-        const QString address = in.drive.right(kAddressWidth);
-        return QStringLiteral("/c ") + address.left(2) + address.mid(3, 2) + address.right(1) +
-               QStringLiteral(" /d ") + in.driver;
-    }
-    const QString extension = in.input.right(4);
-    if (extension == QLatin1String(".bin"))
-        return QStringLiteral("/b ") + Quoted(in.input);
-    if (extension == QLatin1String(".nrg"))
-        return QStringLiteral("/n ") + Quoted(in.input);
     return {};
 }
 

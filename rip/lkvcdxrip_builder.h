@@ -26,10 +26,6 @@ struct LkvcdxripInputs {
 // The first failing check's message, or empty when Go may go on.
 QString LkvcdxripValidation(const LkvcdxripInputs& in);
 
-// "/b", "/n" with the quoted image, or "/c 1,0,0 /d DRIVER"; empty for an image of
-// another kind.
-QString LkvcdxripInputSwitch(const LkvcdxripInputs& in);
-
 // Job, script and log in the output folder, to which the tool is pointed.
 JobPlan BuildLkvcdxripJob(const LkvcdxripInputs& in);
 

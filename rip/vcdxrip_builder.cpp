@@ -7,13 +7,8 @@ namespace torvane {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
 const QChar CR = QLatin1Char('\r');
 const QByteArray kSuccessLine = QByteArrayLiteral("   INFO: done");
-
-QString Quoted(const QString& text) {
-    return Quote + text + Quote;
-}
 
 QString CommandLine(const VcdxripInputs& in) {
     return Quoted(in.toolFolder + QStringLiteral("vcdxrip.exe ")) + QLatin1Char(' ') +

@@ -4,21 +4,12 @@
 // nothing and still ends with status 0: the output is replaced only by an MPEG stream.
 
 #include "tools/adapters/authoring/output_stand_in.h"
+#include "tools/adapters/authoring/tool_capture.h"
 #include "tools/adapters/authoring/tool_path.h"
-
-#include <csignal>
-#include <cstring>
 
 namespace {
 
 constexpr char kName[] = "cdxa2mpeg.exe";
-
-std::string DescribeStatus(int status) {
-    if (status > 128)
-        return "was ended by signal " + std::to_string(status - 128) + " (" +
-               strsignal(status - 128) + ")";
-    return "ended with status " + std::to_string(status);
-}
 
 }  // namespace
 
@@ -37,8 +28,10 @@ int main(int argc, char** argv) {
     const int status = adapter::RunTool(tool, {args[0], standIn});
     if (status != 0) {
         authoring::DropOutputStandIn();
-        adapter::Fail(kName,
-                      tool + " " + DescribeStatus(status) + "; " + output + " is left as it was");
+        // RunTool's status: 128 + the signal for a tool that a signal ended, -1 for none.
+        const authoring::ToolEnd end{status >= 0, status > 128 ? -1 : status,
+                                     status > 128 ? status - 128 : 0};
+        adapter::Fail(kName, tool + " " + end.Describe() + "; " + output + " is left as it was");
     }
     if (!authoring::ReplaceOutputByStandIn(output, &error))
         adapter::Fail(kName, error + " (is " + args[0] + " a file copied off a disc?)");
