@@ -1,0 +1,179 @@
+// The boxes and tips of the tool dialogs as an X server shows them: each is read back from
+// the screen itself (the server's frame buffer) and must show what the window drew.
+
+#include "author/frm_vcdxgen.h"
+#include "job/desktop_services.h"
+#include "shell/frm_mainmenu.h"
+#include "tests/support/fake_services.h"
+
+#include <unistd.h>
+#include <QApplication>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <cstdio>
+#include <functional>
+
+using namespace torvane;
+
+namespace {
+
+constexpr int kWindowTimeoutMs = 10000;
+
+// An Xvfb of the test's own on a free display, ended with the test.
+class XServer {
+public:
+    bool start() {
+        int fds[2];
+        if (pipe(fds) != 0)
+            return false;
+        server_.setProgram(QStringLiteral("Xvfb"));
+        server_.setArguments({QStringLiteral("-displayfd"), QString::number(fds[1]),
+                              QStringLiteral("-screen"), QStringLiteral("0"),
+                              QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"),
+                              QStringLiteral("tcp")});
+        server_.setChildProcessModifier([fds] { close(fds[0]); });
+        server_.start();
+        close(fds[1]);
+        QByteArray display;
+        char c;
+        while (read(fds[0], &c, 1) == 1 && c != '\n')
+            display += c;
+        close(fds[0]);
+        if (display.isEmpty())
+            return false;
+        qputenv("DISPLAY", ":" + display);
+        return true;
+    }
+    ~XServer() {
+        server_.terminate();
+        server_.waitForFinished();
+    }
+
+private:
+    QProcess server_;
+};
+
+// The share of pixels that the screen shows as the window itself drew them.
+double ShownAsDrawn(QWidget& window) {
+    const QImage drawn = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRect place(window.mapToGlobal(QPoint(0, 0)), window.size());
+    const QImage shown = window.screen()
+                             ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+                             .toImage()
+                             .convertToFormat(QImage::Format_RGB32);
+    if (shown.size() != drawn.size())
+        return 0;
+    qint64 same = 0;
+    for (int y = 0; y < drawn.height(); ++y)
+        for (int x = 0; x < drawn.width(); ++x)
+            same += drawn.pixel(x, y) == shown.pixel(x, y);
+    return double(same) / (drawn.width() * drawn.height());
+}
+
+// Runs `step` once on the first shown window that `matches`, after it has been drawn.
+void WhenShown(std::function<bool(QWidget&)> matches, std::function<void(QWidget&)> step) {
+    auto* poll = new QTimer;
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, matches, step] {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && matches(*window) && QTest::qWaitForWindowExposed(window)) {
+                poll->deleteLater();
+                poll->disconnect();
+                QTest::qWait(300);  // the first frame reaches the server
+                step(*window);
+                return;
+            }
+        }
+    });
+    poll->start(50);
+}
+
+std::function<bool(QWidget&)> Titled(const QString& title) {
+    return [title](QWidget& window) { return window.windowTitle() == title; };
+}
+
+}  // namespace
+
+class X11DrawnTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        menu = std::make_unique<frm_mainmenu>(services, app.path());
+        dialog = qobject_cast<frm_vcdxgen*>(menu->openTool(QStringLiteral("vcdxgen")));
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+    }
+    void cleanup() {
+        dialog->close();
+        menu.reset();
+    }
+
+    // A box over the list dialog, over the tool dialog, over the greyed menu.
+    void x11_questionOverTheListDialogIsDrawn() {
+        double shown = -1;
+        WhenShown(Titled("Load MPEG files..."), [](QWidget& list) {
+            list.findChild<QPushButton*>(QStringLiteral("cmd_clear"))->click();
+            list.close();
+        });
+        WhenShown(Titled("Question"), [&shown](QWidget& box) {
+            shown = ShownAsDrawn(box);
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        dialog->cmd_input->click();
+        QVERIFY2(shown > 0.95, qPrintable(QString::number(shown)));
+    }
+
+    void x11_boxOfGoIsDrawn() {
+        double shown = -1;
+        WhenShown(Titled("Information"), [&shown](QWidget& box) {
+            shown = ShownAsDrawn(box);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        dialog->cmd_rip->click();
+        QVERIFY2(shown > 0.95, qPrintable(QString::number(shown)));
+    }
+
+    void x11_toolTipIsDrawn() {
+        QToolTip::showText(dialog->cmd_input->mapToGlobal(QPoint(4, 4)),
+                           dialog->cmd_input->toolTip(), dialog->cmd_input);
+        QWidget* tip = nullptr;
+        QVERIFY(QTest::qWaitFor(
+            [&tip] {
+                for (QWidget* window : QApplication::topLevelWidgets())
+                    if (window->isVisible() && window->inherits("QTipLabel"))
+                        tip = window;
+                return tip && tip->isVisible();
+            },
+            kWindowTimeoutMs));
+        QVERIFY(QTest::qWaitForWindowExposed(tip));
+        QTest::qWait(300);
+        const double shown = ShownAsDrawn(*tip);
+        QVERIFY2(shown > 0.95, qPrintable(QString::number(shown)));
+    }
+
+private:
+    QTemporaryDir app;
+    QtMessageBoxes boxes;
+    test::FakeFileDialogs files;
+    test::FakeDesktop desktop;
+    Services services{boxes, files, desktop};
+    std::unique_ptr<frm_mainmenu> menu;
+    QPointer<frm_vcdxgen> dialog;
+};
+
+int main(int argc, char* argv[]) {
+    XServer server;
+    if (!server.start()) {
+        std::fprintf(stderr, "Xvfb could not be started\n");
+        return 1;
+    }
+    QApplication application(argc, argv);
+    X11DrawnTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "drawn_test.moc"
