@@ -75,11 +75,11 @@ frmAbout::frmAbout(Services& services, const QString& appPath, QWidget* parent)
     Command1->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmd_donate, &QPushButton::clicked, this,
-            [this] { FindURL(services_.desktop, DonationUrl()); });
+            [this] { FindURL(services_, DonationUrl()); });
     connect(cmd_website, &QPushButton::clicked, this,
-            [this] { FindURL(services_.desktop, WebsiteUrl()); });
+            [this] { FindURL(services_, WebsiteUrl()); });
     connect(Command1, &QPushButton::clicked, this,
-            [this] { SendMail(services_.desktop, AuthorMail()); });
+            [this] { SendMail(services_, AuthorMail()); });
 
     auto* head = new QHBoxLayout;
     head->addWidget(icon);

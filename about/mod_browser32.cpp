@@ -1,19 +1,28 @@
 #include "about/mod_browser32.h"
 
+#include "job/form_support.h"
 #include "job/services.h"
 
 namespace torvane {
 
 namespace {
 const QString kServer = QStringLiteral("https://torvane.example.org");
+
+// A link the desktop could not open is said so, with the address to copy by hand.
+void OpenLink(Services& services, const QString& url) {
+    if (!services.desktop.openUrl(url))
+        InformationBox(
+            services.boxes, kInformation,
+            QStringLiteral("No program on this desktop could open the address:\r\r") + url);
+}
 }  // namespace
 
-void FindURL(Desktop& desktop, const QString& url) {
-    desktop.openUrl(url);
+void FindURL(Services& services, const QString& url) {
+    OpenLink(services, url);
 }
 
-void SendMail(Desktop& desktop, const QString& address) {
-    desktop.openUrl(QStringLiteral("mailto:") + address);
+void SendMail(Services& services, const QString& address) {
+    OpenLink(services, QStringLiteral("mailto:") + address);
 }
 
 QString WebsiteUrl() {

@@ -1,15 +1,15 @@
 #pragma once
 // The program's two links out: a web page in the browser, a new mail in the mail program.
-// Both return at once; what the desktop does with them is its own affair.
+// Both return at once; a link that no program of the desktop could open is said so in a box.
 
 #include <QString>
 
 namespace torvane {
 
-class Desktop;
+struct Services;
 
-void FindURL(Desktop& desktop, const QString& url);
-void SendMail(Desktop& desktop, const QString& address);
+void FindURL(Services& services, const QString& url);
+void SendMail(Services& services, const QString& address);
 
 // The program's own addresses.
 QString WebsiteUrl();    // .../torvane.html

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 namespace torvane {
 
@@ -235,7 +236,9 @@ void frm_regen::Timer2_Timer() {
     if (!endMarkerShown(Timer2))
         return;
     if (!RegenRipSucceeded(ReadWholeFile(log_path))) {
-        // What vcdxrip left stays in the work folder, for the user to look into.
+        // What vcdxrip left stays in the work folder, for the user to look into, beside
+        // the user's own files.
+        putHeldFilesBack();
         workRecorded_ = false;
         endRun(Timer2, 2, kFailed, RegenRipFailureText());
         return;
@@ -293,7 +296,37 @@ void frm_regen::recordWorkFolder() {
     const QDir work(RegenWorkFolder(inputs()));
     workExisted_ = work.exists();
     workHeld_ = workExisted_ ? work.entryList(kPlainFiles) : QStringList();
+    setHeldFilesAside();
     workRecorded_ = true;
+}
+
+// The rip writes names of its own choosing (avseq01.mpg, videocd.xml, ...) in the work
+// folder: a file of the user's under such a name would be overwritten. The files the folder
+// held wait in a folder beside it until the clean-up puts them back.
+void frm_regen::setHeldFilesAside() {
+    QTemporaryDir aside(RegenOutputDir(inputs()) + QStringLiteral("_vtools-kept-XXXXXX"));
+    if (workHeld_.isEmpty() || !aside.isValid())
+        return;
+    aside.setAutoRemove(false);
+    keptFolder_ = aside.path();
+    const QDir work(RegenWorkFolder(inputs()));
+    for (const QString& name : workHeld_)
+        if (QFile::rename(work.filePath(name), QDir(keptFolder_).filePath(name)))
+            keptAside_ << name;
+}
+
+// The user's files back in the work folder, over what the run wrote under their names.
+void frm_regen::putHeldFilesBack() {
+    const QDir work(RegenWorkFolder(inputs()));
+    for (const QString& name : std::as_const(keptAside_)) {
+        QFile::remove(work.filePath(name));
+        QFile::rename(QDir(keptFolder_).filePath(name), work.filePath(name));
+    }
+    // A file that could not go back stays in the folder beside, which then stays too.
+    if (!keptFolder_.isEmpty())
+        QDir().rmdir(keptFolder_);
+    keptAside_.clear();
+    keptFolder_.clear();
 }
 
 void frm_regen::removeWorkFolder() {
@@ -303,6 +336,7 @@ void frm_regen::removeWorkFolder() {
     for (const QString& name : work.entryList(kPlainFiles))
         if (!workHeld_.contains(name))
             work.remove(name);
+    putHeldFilesBack();
     // A folder that still holds something stays: nothing is reported.
     if (!workExisted_)
         QDir().rmdir(work.path());

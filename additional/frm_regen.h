@@ -84,6 +84,8 @@ private:
     void deleteJobFiles();
     void recordWorkFolder();
     void removeWorkFolder();
+    void setHeldFilesAside();
+    void putHeldFilesBack();
 
     frm_mainmenu& menu_;
     Services& services_;
@@ -91,6 +93,8 @@ private:
     bool workRecorded_ = false;
     bool workExisted_ = false;
     QStringList workHeld_;
+    QString keptFolder_;     // where the held files wait during the run
+    QStringList keptAside_;  // the held files that wait there
 };
 
 }  // namespace torvane

@@ -1,6 +1,7 @@
 #include "inspect/cdxa2mpeg_builder.h"
 
 #include "job/job_paths.h"
+#include "job/output_watch.h"
 
 namespace torvane {
 
@@ -24,12 +25,12 @@ JobPlan BuildCdxa2mpegJob(const Cdxa2mpegInputs& in) {
     return plan;
 }
 
-QString Cdxa2mpegReport(const QString& output, bool written) {
+QString Cdxa2mpegReport(const QString& output, bool written, bool olderKept) {
     if (written)
         return QStringLiteral("Finished!\r\rConverted file written in:\r") + output;
     // The tool leaves the output as it was when the input holds no MPEG stream.
-    return QStringLiteral("Finished!\r\rNo converted file was written; this file is as it was:\r") +
-           output +
+    return QStringLiteral("Finished!\r\r") +
+           NothingWrittenText(QStringLiteral("converted file"), output, olderKept) +
            QStringLiteral(
                "\r\rThe console showed why: is the input a media file copied off a "
                "S/VCD?");

@@ -20,7 +20,8 @@ struct Cdxa2mpegInputs {
 JobPlan BuildCdxa2mpegJob(const Cdxa2mpegInputs& in);
 
 // The information box's text once the job ended: where the converted file was written,
-// or, when the job left none, that nothing was written there.
-QString Cdxa2mpegReport(const QString& output, bool written);
+// or, when the job left none, that nothing was written there and whether an older file
+// stands there unchanged.
+QString Cdxa2mpegReport(const QString& output, bool written, bool olderKept);
 
 }  // namespace torvane

@@ -99,7 +99,7 @@ void frm_cdxa2mpeg::setControlsEnabled(bool enabled) {
 
 void frm_cdxa2mpeg::report() {
     InformationBox(services_.boxes, kInformation,
-                   Cdxa2mpegReport(txt_output->text(), output_.Written()));
+                   Cdxa2mpegReport(txt_output->text(), output_.Written(), output_.Kept()));
 }
 
 void frm_cdxa2mpeg::closeEvent(QCloseEvent* event) {

@@ -113,6 +113,7 @@ void frm_vcdxminfo::cmd_rip_Click() {
     if (!GoMayProceed(services_.boxes, OutputThenInputValidation(in.input, in.output),
                       {in.input, in.output}, {plan.jobDir}))
         return;
+    output_.Start(in.output);
     setControlsEnabled(false);
     frame.Start(plan);
 }
@@ -127,7 +128,15 @@ void frm_vcdxminfo::setControlsEnabled(bool enabled) {
 }
 
 void frm_vcdxminfo::report() {
-    AskToOpenReport(services_, QStringLiteral("XML"), txt_output->text());
+    if (output_.Written()) {
+        AskToOpenReport(services_, QStringLiteral("XML"), txt_output->text());
+        return;
+    }
+    InformationBox(
+        services_.boxes, kInformation,
+        QStringLiteral("Finished!\r\r") +
+            NothingWrittenText(QStringLiteral("XML report"), txt_output->text(), output_.Kept()) +
+            QStringLiteral("\r\rThe console showed why."));
 }
 
 void frm_vcdxminfo::closeEvent(QCloseEvent* event) {

@@ -3,6 +3,7 @@
 // as an XML file by the tool.
 
 #include "job/job_frame.h"
+#include "job/output_watch.h"
 
 #include <QString>
 #include <QWidget>
@@ -52,6 +53,9 @@ private:
     void chk_aps_Click();
     void setControlsEnabled(bool enabled);
     void report();
+
+    // The report is offered only when this job wrote it: a failed tool may leave an older one.
+    OutputWatch output_;
 
     frm_mainmenu& menu_;
     Services& services_;

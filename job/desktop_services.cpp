@@ -3,7 +3,6 @@
 #include "job/file_filter.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -62,6 +61,25 @@ bool HasDesktopHandler(const QString& path) {
     return !type.isEmpty() && !AskXdgMime({QStringLiteral("default"), type}).isEmpty();
 }
 
+// Hands `url` to xdg-open. The opener may wait for the program it starts (a viewer open for
+// an hour), so only a failure within its first moments is seen: no opener, or an opener
+// that ends in failure (a handler that cannot start, no browser at all). Past that moment
+// it runs on unwatched and goes when it ends.
+bool RunOpener(const QString& url) {
+    constexpr int kEarlyFailureMs = 1500;
+    auto* opener = new QProcess(qApp);
+    opener->setStandardInputFile(QProcess::nullDevice());
+    opener->start(QStringLiteral("xdg-open"), {url});
+    if (!opener->waitForFinished(kEarlyFailureMs) && opener->state() != QProcess::NotRunning) {
+        QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
+        return true;
+    }
+    const bool opened = opener->exitStatus() == QProcess::NormalExit &&
+                        opener->error() == QProcess::UnknownError && opener->exitCode() == 0;
+    opener->deleteLater();
+    return opened;
+}
+
 }  // namespace
 
 QString DisplayText(const QString& text) {
@@ -108,11 +126,11 @@ std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int fi
 }
 
 bool QtDesktop::openInViewer(const QString& path) {
-    return HasDesktopHandler(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    return HasDesktopHandler(path) && RunOpener(QUrl::fromLocalFile(path).toString());
 }
 
-void QtDesktop::openUrl(const QString& url) {
-    QDesktopServices::openUrl(QUrl(url));
+bool QtDesktop::openUrl(const QString& url) {
+    return RunOpener(url);
 }
 
 }  // namespace torvane

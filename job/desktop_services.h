@@ -21,7 +21,7 @@ public:
 class QtDesktop : public Desktop {
 public:
     bool openInViewer(const QString& path) override;
-    void openUrl(const QString& url) override;
+    bool openUrl(const QString& url) override;
 };
 
 // A lone CR is a line break on screen; the text the program holds keeps its CRs.

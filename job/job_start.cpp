@@ -5,8 +5,10 @@
 #include "job/services.h"
 #include "platform/replace_file.h"
 
+#include <unistd.h>
 #include <QFile>
 #include <QProcess>
+#include <csignal>
 #include <cstring>
 
 namespace torvane {
@@ -40,15 +42,27 @@ bool ConfirmQuitWhileRunning(MessageBoxes& boxes) {
            vbNo;
 }
 
-bool StartHiddenScript(const QString& scriptPath, const QString& workDir) {
-    QProcess process;
-    process.setProgram(CConsole::interpreterPath());
-    process.setArguments({scriptPath});
-    process.setWorkingDirectory(workDir);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
+HiddenScript::HiddenScript() = default;
+
+HiddenScript::~HiddenScript() {
+    if (!process_ || process_->state() == QProcess::NotRunning)
+        return;
+    // The whole group: the interpreter and the program it waits for.
+    kill(-static_cast<pid_t>(process_->processId()), SIGKILL);
+    process_->waitForFinished();
+}
+
+bool HiddenScript::Start(const QString& scriptPath, const QString& workDir) {
+    process_ = std::make_unique<QProcess>();
+    process_->setProgram(CConsole::interpreterPath());
+    process_->setArguments({scriptPath});
+    process_->setWorkingDirectory(workDir);
+    process_->setStandardInputFile(QProcess::nullDevice());
+    process_->setStandardOutputFile(QProcess::nullDevice());
+    process_->setStandardErrorFile(QProcess::nullDevice());
+    process_->setChildProcessModifier([] { setpgid(0, 0); });
+    process_->start();
+    return process_->waitForStarted();
 }
 
 }  // namespace torvane

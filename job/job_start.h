@@ -6,6 +6,7 @@
 #include "job/cconsole.h"
 #include "job/job_plan.h"
 
+#include <QProcess>
 #include <QString>
 #include <memory>
 
@@ -22,9 +23,23 @@ QString WriteJobScript(const JobPlan& plan);
 std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& title,
                                           const QString& scriptPath);
 
-// Starts the job script at `scriptPath` in `workDir` with no console and no window, and
-// goes on at once, holding nothing of the process; false when it cannot be started.
-bool StartHiddenScript(const QString& scriptPath, const QString& workDir);
+// A job script run with no console and no window, in a process group of its own: the
+// script and every program it started end when this goes, so that a scan of a dialog
+// that has closed writes nothing that a later one could read as its own.
+class HiddenScript {
+public:
+    HiddenScript();
+    ~HiddenScript();
+    HiddenScript(const HiddenScript&) = delete;
+    HiddenScript& operator=(const HiddenScript&) = delete;
+
+    // Starts the script at `scriptPath` in `workDir` and goes on at once; false when it
+    // cannot be started.
+    bool Start(const QString& scriptPath, const QString& workDir);
+
+private:
+    std::unique_ptr<QProcess> process_;
+};
 
 // The unload guard's question while a job runs; true when the user answers Yes.
 bool ConfirmQuitWhileRunning(MessageBoxes& boxes);

@@ -19,4 +19,16 @@ bool OutputWatch::Written() const {
     return !existed_ || file.size() != size_ || file.lastModified() != modified_;
 }
 
+bool OutputWatch::Kept() const {
+    const QFileInfo file(path_);
+    return existed_ && file.isFile() && file.size() == size_ && file.lastModified() == modified_;
+}
+
+QString NothingWrittenText(const QString& what, const QString& path, bool olderKept) {
+    return QStringLiteral("No %1 was written; ").arg(what) +
+           (olderKept ? QStringLiteral("this file is as it was:\r")
+                      : QStringLiteral("there is none at:\r")) +
+           path;
+}
+
 }  // namespace torvane

@@ -14,6 +14,8 @@ public:
     void Start(const QString& path);
     // True when a file that is not empty stands at the path, and is not the one noted.
     bool Written() const;
+    // True when the file noted at Start stands at the path still, unchanged.
+    bool Kept() const;
 
 private:
     QString path_;
@@ -21,5 +23,9 @@ private:
     qint64 size_ = 0;
     QDateTime modified_;
 };
+
+// The end-of-job words about a `what` ("converted file") that the job did not write at
+// `path`: an older file there is named as it was, and no file is never called one.
+QString NothingWrittenText(const QString& what, const QString& path, bool olderKept);
 
 }  // namespace torvane

@@ -56,10 +56,10 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
     // Shows a text file in the desktop's viewer and returns at once; false when the desktop
-    // has no program for it.
+    // has no program for it, or the program it names fails to start.
     virtual bool openInViewer(const QString& path) = 0;
-    // Opens a web address or a mailto: address and returns at once.
-    virtual void openUrl(const QString& url) = 0;
+    // Opens a web address or a mailto: address and returns at once; false as above.
+    virtual bool openUrl(const QString& url) = 0;
 };
 
 struct Services {

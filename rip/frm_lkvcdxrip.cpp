@@ -158,7 +158,7 @@ void frm_lkvcdxrip::startScan() {
     QFile::remove(message_path);
     QFile::remove(scanbus_path);
     QFile(message_path).open(QIODevice::WriteOnly);
-    StartHiddenScript(tool_folder + QStringLiteral("scanbus.bat"), tool_folder);
+    scan.Start(tool_folder + QStringLiteral("scanbus.bat"), tool_folder);
     Timer2.setInterval(kScanPollMs);
     Timer2.start();
     wait = new frm_wait(this);
@@ -169,6 +169,7 @@ void frm_lkvcdxrip::Timer2_Timer() {
     const std::optional<QByteArray> message = ReadWholeFile(message_path);
     if (!message || !message->startsWith("***done***"))
         return;
+    Timer2.stop();  // one scan, one list
     wait->hide();
     showNormal();
     QFile::remove(message_path);

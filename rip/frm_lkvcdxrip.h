@@ -4,6 +4,7 @@
 // drives (Timer2); until the scan ends the dialog lies minimised behind a wait box.
 
 #include "job/job_frame.h"
+#include "job/job_start.h"
 
 #include <QString>
 #include <QTimer>
@@ -61,6 +62,7 @@ public:
     QString scanbus_path;
     JobFrame frame;  // console, script_path, log_path, job_running, Timer1
     QTimer Timer2;
+    HiddenScript scan;  // ends with the dialog
 
 protected:
     void closeEvent(QCloseEvent* event) override;

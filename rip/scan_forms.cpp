@@ -58,7 +58,7 @@ frm_scanfail::frm_scanfail(QWidget& parent, Services& services)
     connect(cmd_cancel, &QPushButton::clicked, this, &QDialog::reject);
     // The box stays open: each press opens the page once.
     connect(cmd_download, &QPushButton::clicked, this,
-            [&services] { FindURL(services.desktop, AspiLayerUrl()); });
+            [&services] { FindURL(services, AspiLayerUrl()); });
 }
 
 }  // namespace torvane

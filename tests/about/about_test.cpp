@@ -33,6 +33,10 @@ private slots:
         QTest::newRow("Escape on Author") << "cmd_author" << int(Qt::Key_Escape) << mail;
         QTest::newRow("Website") << "cmd_website" << int(Qt::Key_Space)
                                  << "https://torvane.example.org/torvane.html";
+        QTest::newRow("Website, no browser") << "cmd_website" << int(Qt::Key_Space)
+                                             << "https://torvane.example.org/torvane.html|No "
+                                                "program on this desktop could open the address:"
+                                                "\r\rhttps://torvane.example.org/torvane.html";
     }
 
     void keys() {
@@ -41,6 +45,8 @@ private slots:
         QTemporaryDir app;
         QVERIFY(test::WriteBytes(app.filePath("author.txt"), "author\r\n"));
         fakes_.desktop.urls.clear();
+        fakes_.boxes.shown.clear();
+        fakes_.desktop.viewerFound = !QByteArray(QTest::currentDataTag()).contains("no browser");
         frmAbout about(fakes_.services, app.path());
         QVERIFY(QFile::remove(app.filePath("author.txt")));  // the texts are read as it opens
         about.show();
@@ -50,7 +56,10 @@ private slots:
         about.findChild<QWidget*>(focus)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
         const QString shown = about.isVisible() ? about.Text1->toPlainText() : "closed";
-        QTEST(fakes_.desktop.urls.isEmpty() ? shown : fakes_.desktop.urls.join('|'), "outcome");
+        QStringList links = fakes_.desktop.urls;
+        for (const MessageBoxRequest& box : fakes_.boxes.shown)
+            links << box.text;
+        QTEST(links.isEmpty() ? shown : links.join('|'), "outcome");
     }
 
     void toolBox_data() {

@@ -45,7 +45,8 @@ private slots:
             {"bin/same.exe", "echo path copy"},
             {"bin/onlypath.exe", "echo path only"},
             {"noisy.exe", "echo out; echo err >&2; exit 3"},
-            {"sleeper.exe", "echo ready; exec sleep 60"}};
+            {"sleeper.exe", "echo ready; exec sleep 60"},
+            {"waiter.exe", "echo ready; while [ ! -e go ]; do sleep 0.05; done; rm go"}};
         for (const auto& [path, body] : programs)
             QVERIFY(QDir().mkpath(QFileInfo(path).path()) && WriteScript(path, body));
     }
@@ -79,6 +80,7 @@ private slots:
         QFETCH(QByteArray, key);
         QFETCH(int, status);
         QFETCH(QString, screen);
+        QFETCH(QByteArray, typedAhead);
         writeScript(body);
         torvane::platform::Pty pty;
         const auto model = torvane::platform::ScreenModel::create(25, 80);
@@ -89,8 +91,15 @@ private slots:
                 model->feed(buffer, static_cast<std::size_t>(n));
             return model->screenText();
         };
-        QVERIFY(pid > 0 &&
-                QTest::qWaitFor([&] { return shown().contains(waitFor); }, kHangGuardMs));
+        const auto showsInTurn = [&](const QString& text) {
+            return QTest::qWaitFor([&] { return shown().contains(text); }, kHangGuardMs);
+        };
+        if (!typedAhead.isEmpty()) {  // typed while waiter.exe runs, echoed, then it ends
+            QVERIFY(pid > 0 && showsInTurn("ready"));
+            pty.write(typedAhead.constData(), typedAhead.size());
+            QVERIFY(showsInTurn("ready\n" + typedAhead) && WriteBytes("go", ""));
+        }
+        QVERIFY(pid > 0 && showsInTurn(waitFor));
         int result = -1;
         QCOMPARE(waitpid(pid, &result, WNOHANG), 0);  // still waiting
         pty.write(key.constData(), key.size());
@@ -168,14 +177,15 @@ void InterpreterTest::scripts_data() {
 
 void InterpreterTest::onATerminal_data() {
     QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("waitFor");  // on the screen before the key is typed
-    QTest::addColumn<QByteArray>("key");   // none: a hang-up instead
-    QTest::addColumn<int>("status");       // torvane-cmd's wait status
-    QTest::addColumn<QString>("screen");   // down to its last row that is not empty
+    QTest::addColumn<QString>("waitFor");        // on the screen before the key is typed
+    QTest::addColumn<QByteArray>("key");         // none: a hang-up instead
+    QTest::addColumn<int>("status");             // torvane-cmd's wait status
+    QTest::addColumn<QString>("screen");         // down to its last row that is not empty
+    QTest::addColumn<QByteArray>("typedAhead");  // into the console while waiter.exe runs
     const auto row = [](const char* name, const char* body, const char* waitFor, const char* key,
-                        int status, const char* screen) {
+                        int status, const char* screen, const char* typedAhead = "") {
         QTest::newRow(name) << QByteArray(body) << QString(waitFor) << QByteArray(key) << status
-                            << QString(screen);
+                            << QString(screen) << QByteArray(typedAhead);
     };
     row("cls puts the next text at the top left of a clear screen; pause takes a key",
         "echo x\r\ncls\r\necho ***end***\r\npause", "continue", "x", 0,
@@ -184,6 +194,9 @@ void InterpreterTest::onATerminal_data() {
         "\x03", 0, "\n{cwd}>echo off\nready\n^Cafter");
     row("a hang-up ends the script and its tool", "sleeper.exe\r\necho after", "ready", "", SIGHUP,
         "\n{cwd}>echo off\nready");
+    row("pause waits for a key pressed at it, not one typed while the tool ran",
+        "waiter.exe\r\npause\r\necho after", "continue", "x", 0,
+        "\n{cwd}>echo off\nready\nkPress any key to continue . . .\nafter", "k");
 }
 
 QTEST_GUILESS_MAIN(InterpreterTest)

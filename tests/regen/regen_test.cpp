@@ -258,6 +258,8 @@ private slots:
         QTest::newRow("stage 2") << 2 << false;
         QTest::newRow("stage 2, a work folder of the user's") << 2 << true;
         QTest::newRow("stage 3") << 3 << false;
+        QTest::newRow("stage 3, a work folder of the user's, its avseq01.mpg rewritten")
+            << 3 << true;
     }
 
     void closingDuringAStageLeavesOnlyTheUsersFiles() {
@@ -269,11 +271,14 @@ private slots:
         const QByteArray hold = "echo $$ > '" + QFile::encodeName(pidFile) + "'; exec sleep 300\n";
         app.addTool("vcddebug.exe",
                     (stage == 1 ? hold : "") + "printf 'vcd-info\\r\\nSVCD detected\\r\\n'");
-        app.addTool("vcdxrip.exe", (stage == 2 ? hold : "") +
-                                       "touch avseq01.mpg; printf 'x\\r\\n   INFO: done\\r\\n'");
+        app.addTool("vcdxrip.exe",
+                    (stage == 2 ? hold : "") +
+                        "printf rip > avseq01.mpg; printf 'x\\r\\n   INFO: done\\r\\n'");
         app.addTool("vcdxbuild.exe", hold);
-        if (workFolderBefore)
-            QVERIFY(WriteBytes(FreshFolder(out_, "_vtools") + "/mine.txt", "mine"));
+        const QStringList mine{"avseq01.mpg", "mine.txt"};
+        for (const QString& name : workFolderBefore ? mine : QStringList())
+            QVERIFY(QDir().mkpath(out_ + "/_vtools") &&
+                    WriteBytes(out_ + "/_vtools/" + name, "mine"));
         QVERIFY(WriteBytes(in_ + "/lost.bin", "disc"));
         start(in_ + "/lost.bin", out_ + "/new.bin", {vbYes});
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(pidFile), kJobStepTimeoutMs);
@@ -289,7 +294,8 @@ private slots:
         QCOMPARE(ReadBytes(in_ + "/lost.bin"), QByteArray("disc"));
         QCOMPARE(EntriesOf(out_), workFolderBefore ? QStringList{"_vtools"} : QStringList());
         if (workFolderBefore)
-            QCOMPARE(EntriesOf(out_ + "/_vtools"), QStringList{"mine.txt"});
+            QVERIFY(EntriesOf(out_ + "/_vtools") == mine &&
+                    ReadBytes(out_ + "/_vtools/avseq01.mpg") == "mine");
         for (const QWidget* window : QApplication::topLevelWidgets())
             QVERIFY(window->objectName() != "frm_regen_status");
     }

@@ -56,10 +56,13 @@ public:
         viewed << path;
         return viewerFound;
     }
-    void openUrl(const QString& url) override { urls << url; }
+    bool openUrl(const QString& url) override {
+        urls << url;
+        return viewerFound;
+    }
     QStringList viewed;
     QStringList urls;
-    bool viewerFound = true;  // false: the desktop has no program for the file
+    bool viewerFound = true;  // false: the desktop has no program for the file or link
 };
 
 struct FakeServices {

@@ -98,16 +98,16 @@ struct DialogFixture {
             open->close();
     }
 
-    // `tool`, if named, records its arguments (one a line) and prints `log`. The named
+    // `tool`, if named, records its arguments (one a line), prints `log` and runs `then`. The named
     // controls are clicked before the two names are picked, as the image type decides the
     // output's type.
     void prepare(const char* tool, const QString& clicks, const QString& input,
-                 const QString& output, const QByteArray& log = {}) {
+                 const QString& output, const QByteArray& log = {}, const QByteArray& then = {}) {
         if (tool)
-            app.addTool(QLatin1String(tool), "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
-                                                 QFile::encodeName(work.filePath("args.txt")) +
-                                                 "'\nprintf '" +
-                                                 QByteArray(log).replace("\r\n", "\\r\\n") + "'");
+            app.addTool(QLatin1String(tool),
+                        "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > '" +
+                            QFile::encodeName(work.filePath("args.txt")) + "'\nprintf '" +
+                            QByteArray(log).replace("\r\n", "\\r\\n") + "'\n" + then);
         for (const QString& name : clicks.split(' ', Qt::SkipEmptyParts))
             dialog.template findChild<QAbstractButton*>(name)->click();
         fakes.files.names = {output};

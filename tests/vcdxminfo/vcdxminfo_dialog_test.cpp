@@ -11,6 +11,8 @@ const char* const kBanner =
     "echo VCDXMINFO Tool - Batch File (quelmora productions)\n"
     "echo ==================================================\n";
 using Fixture = DialogFixture<frm_vcdxminfo>;
+const char* const kWritesReport =
+    "for a; do case \"$a\" in --output-file=*) printf '<r/>' > \"${a#*=}\";; esac; done";
 
 class VcdxminfoDialogTest : public QObject {
     Q_OBJECT
@@ -60,20 +62,29 @@ echo Option switches:   -a --relaxed-aps -v -p
     void job_data() {
         QTest::addColumn<QString>("clicks");
         QTest::addColumn<QStringList>("switches");
-        QTest::addColumn<int>("answer");  // to opening the report
+        QTest::addColumn<bool>("writes");  // the tool writes its report; an older one stands
+        QTest::addColumn<int>("answer");   // to opening the report
+        QTest::addColumn<QString>("box");  // of a report not written, less the output
         // Without APS the relaxed tick is moot: grey, kept, and left out of the command.
-        QTest::newRow("no aps, opened") << "chk_apsrelaxed chk_aps" << QStringList{"-i"} << vbYes;
+        QTest::newRow("no aps, opened")
+            << "chk_apsrelaxed chk_aps" << QStringList{"-i"} << true << vbYes << "";
         QTest::newRow("relaxed aps, not opened")
-            << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << vbNo;
+            << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << true << vbNo << "";
+        QTest::newRow("the tool fails: the older report is not offered as its own")
+            << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << false << vbOK
+            << "Finished!\r\rNo XML report was written; this file is as it was:\r";
     }
 
     void job() {
         QFETCH(QString, clicks);
         QFETCH(QStringList, switches);
+        QFETCH(bool, writes);
         QFETCH(int, answer);
+        QFETCH(QString, box);
         Fixture f("vcdxminfo");
         const QString input = f.work.filePath("-c & o.mpg"), output = f.work.filePath("r; $x.xml");
-        f.prepare("vcdxminfo.exe", clicks, input, output);
+        QVERIFY(WriteBytes(output, "an older report"));
+        f.prepare("vcdxminfo.exe", clicks, input, output, {}, writes ? kWritesReport : "");
         const bool aps = switches.contains("-a");
         QCOMPARE(f.dialog.chk_apsrelaxed->isEnabled(), aps);
         QVERIFY(f.go(answer));
@@ -81,9 +92,10 @@ echo Option switches:   -a --relaxed-aps -v -p
         QCOMPARE(f.arguments(),
                  (switches + QStringList{"-v", "-p", "--output-file=" + output, input}));
         QCOMPARE(f.fakes.boxes.shown.size(), 1u);
-        QCOMPARE(f.fakes.boxes.shown[0].title, "Question");
         QCOMPARE(f.fakes.boxes.shown[0].text,
-                 "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output);
+                 box.isEmpty()
+                     ? "Finished!\r\rDo you want to open the XML file now?\r\n\r\n" + output
+                     : box + output + "\r\rThe console showed why.");
         QCOMPARE(f.fakes.desktop.viewed, answer == vbYes ? QStringList{output} : QStringList());
         QVERIFY(f.dialog.chk_apsrelaxed->isEnabled() == aps &&
                 f.dialog.chk_apsrelaxed->isChecked());

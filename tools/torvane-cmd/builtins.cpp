@@ -56,9 +56,10 @@ void Pause() {
         return;
     }
     // The key mode is in force before the prompt shows, so a key typed as soon as the
-    // prompt is seen is taken, whatever the timing.
+    // prompt is seen is taken, whatever the timing. What was typed before the pause (while
+    // the tool ran, unread by it) is discarded: only a key pressed at the prompt ends it.
     const termios keyMode = KeyMode(saved);
-    tcsetattr(STDIN_FILENO, TCSANOW, &keyMode);
+    tcsetattr(STDIN_FILENO, TCSAFLUSH, &keyMode);
     WriteOut(kPausePrompt);
     ReadOneKey();
     // A key such as an arrow sends several bytes; the rest of them belong to this key too.
