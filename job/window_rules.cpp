@@ -31,10 +31,9 @@ bool KeyBelongsToFocus(QObject* watched, const QKeyEvent& key) {
     return IsEnter(key) && FocusedButton(watched);
 }
 
-// A close the window manager asks for arrives as a spontaneous event; close() does not.
-bool IsCloseOfDisabledWindow(QObject* watched, const QEvent& event) {
+bool IsDisabledWindow(QObject* watched) {
     const auto* widget = qobject_cast<QWidget*>(watched);
-    return event.spontaneous() && widget && widget->isWindow() && !widget->isEnabled();
+    return widget && widget->isWindow() && !widget->isEnabled();
 }
 
 }  // namespace
@@ -56,7 +55,7 @@ bool WindowRules::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
         case QEvent::Close:
-            if (!IsCloseOfDisabledWindow(watched, *event))
+            if (!IsDisabledWindow(watched))
                 return false;
             event->ignore();
             return true;

@@ -5,8 +5,8 @@
 //    bar), ahead of any form-wide Enter shortcut.
 //  - While a drop-down list or another popup is open, Enter and Escape are the popup's:
 //    no form-wide shortcut presses or closes anything behind it.
-//  - A disabled window ignores a request to close it from the window manager (close box,
-//    Alt+F4); the program itself still closes it.
+//  - A disabled window ignores a request to close it (close box, Alt+F4): the program
+//    enables a window before it closes it.
 
 #include <QObject>
 
