@@ -91,7 +91,7 @@ private slots:
             QVERIFY(!window->close());
         }
         QVERIFY(!f.menu.isEnabled());
-        QWidget* box = QApplication::activeWindow();
+        QWidget* box = ComponentDialog(QStringLiteral("about_component"));
         QVERIFY(box && box->close());
         QVERIFY(f.dialog.isEnabled());
     }
