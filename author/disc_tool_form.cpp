@@ -65,6 +65,7 @@ void DiscToolForm::buildControls() {
     opt_hqvcd = form.optionButton("opt_hqvcd", "HQVCD",
                                   "A variant of SVCD -- the \"SVCD\" option is recommended");
     opt_vcd2->setChecked(true);
+    form.optionGroup({opt_vcd11, opt_vcd2, opt_svcd, opt_hqvcd});
     form.addOptionRow({Label3, opt_vcd11, opt_vcd2, opt_svcd, opt_hqvcd});
 
     Label4 = form.label(
@@ -72,6 +73,7 @@ void DiscToolForm::buildControls() {
     txt_volumelabel = form.textBox(
         "txt_volumelabel",
         "ISO volume label: max. of 32 characters (A-Z, 1-9 and _ characters only)", "VIDEOCD", 32);
+    ToolForm::fitCharacters(*txt_volumelabel, 32);
     Label5 = form.label("Label5", "Album ID:", "The name (ID) of your S/VCD \"Album\"");
     txt_albumid = form.textBox("txt_albumid",
                                "Album ID: max. of 16 characters (A-Z, 1-9 and _ characters only)",

@@ -1,10 +1,14 @@
 #include "job/console_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
 #include <optional>
@@ -69,16 +73,59 @@ QByteArray FixedKeyBytes(int key) {
 
 }  // namespace
 
+// The cells, inside the window's scroll area. The window keeps the focus and the keys.
+class ScreenView : public QWidget {
+public:
+    explicit ScreenView(ConsoleWindow& console) : console_(console) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setFocusPolicy(Qt::NoFocus);
+        setFixedSize(console.screenSize());
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        console_.paintScreen(painter);
+    }
+    // The wheel browses the scrollback, as over the window, not the scroll area.
+    void wheelEvent(QWheelEvent* event) override { QCoreApplication::sendEvent(&console_, event); }
+
+private:
+    ConsoleWindow& console_;
+};
+
 ConsoleWindow::ConsoleWindow(platform::ScreenModel& screen, TypedHandler typed)
     : QWidget(nullptr, Qt::Window), screen_(screen), typed_(std::move(typed)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled, false);
-    setFixedSize(sizeHint());
+    view_ = new ScreenView(*this);
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(view_);
+    closeNote_ =
+        new QLabel(QStringLiteral("This window closes by itself when its job has ended."), this);
+    closeNote_->setMargin(kMargin * 2);
+    closeNote_->hide();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(area);
+    layout->addWidget(closeNote_);
+    fitWhole();
     repaintTimer_.setSingleShot(true);
     repaintTimer_.setInterval(kMinRepaintIntervalMs);
-    connect(&repaintTimer_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    connect(&repaintTimer_, &QTimer::timeout, view_, qOverload<>(&QWidget::update));
+}
+
+// No larger than the whole screen and the note, and as large as that to start with.
+void ConsoleWindow::fitWhole() {
+    QSize whole = view_->size();
+    if (!closeNote_->isHidden())
+        whole.rheight() += closeNote_->sizeHint().height();
+    setMaximumSize(whole);
+    resize(whole);
 }
 
 void ConsoleWindow::screenChanged() {
@@ -91,15 +138,14 @@ QSize ConsoleWindow::cellSize() const {
     return QSize(metrics.horizontalAdvance(QLatin1Char('M')), metrics.height());
 }
 
-QSize ConsoleWindow::sizeHint() const {
+QSize ConsoleWindow::screenSize() const {
     const QSize cell = cellSize();
     return QSize(cell.width() * screen_.columns() + 2 * kMargin,
                  cell.height() * screen_.rows() + 2 * kMargin);
 }
 
-void ConsoleWindow::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), ToQColor(screen_.defaultBackground()));
+void ConsoleWindow::paintScreen(QPainter& painter) const {
+    painter.fillRect(QRect(QPoint(), screenSize()), ToQColor(screen_.defaultBackground()));
     const int ascent = QFontMetrics(font()).ascent();
     for (int row = 0; row < screen_.rows(); ++row)
         paintRow(painter, row, ascent);
@@ -137,7 +183,7 @@ void ConsoleWindow::scrollBack(int lines) {
     if (wanted == linesBack_)
         return;
     linesBack_ = wanted;
-    update();
+    view_->update();
 }
 
 void ConsoleWindow::wheelEvent(QWheelEvent* event) {
@@ -180,6 +226,10 @@ void ConsoleWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void ConsoleWindow::closeEvent(QCloseEvent* event) {
+    if (closeNote_->isHidden()) {
+        closeNote_->show();
+        fitWhole();
+    }
     event->ignore();
 }
 

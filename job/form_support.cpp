@@ -66,7 +66,7 @@ void MakeCancelButton(QWidget& form, QPushButton& cancel) {
     MakeKeyPress(form, QKeySequence(Qt::Key_Escape), cancel);
 }
 
-// A focused button takes Enter itself (enter_presses_button.h) before the shortcut sees it.
+// A focused button takes Enter itself (window_rules.h) before the shortcut sees it.
 void MakeDefaultButton(QWidget& form, QPushButton& button) {
     MakeKeyPress(form, QKeySequence(Qt::Key_Return), button);
     MakeKeyPress(form, QKeySequence(Qt::Key_Enter), button);

@@ -65,6 +65,24 @@ QRadioButton* ToolForm::optionButton(const char* name, const char* caption, cons
     return Named(new QRadioButton(QString::fromUtf8(caption), &form_), name, tip);
 }
 
+void ToolForm::optionGroup(std::initializer_list<QRadioButton*> options) {
+    // Only the selected button is a tab stop; the arrow keys reach the others all the same.
+    const auto follow = [group = QList<QRadioButton*>(options)] {
+        for (QRadioButton* option : group)
+            option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    };
+    for (QRadioButton* option : options)
+        QObject::connect(option, &QRadioButton::toggled, option, follow);
+    follow();
+}
+
+void ToolForm::fitCharacters(QLineEdit& box, int characters) {
+    // The box's own hint holds 17 narrow characters besides its frame and margins.
+    const QFontMetrics metrics = box.fontMetrics();
+    const int frame = box.sizeHint().width() - 17 * metrics.horizontalAdvance(QLatin1Char('x'));
+    box.setMinimumWidth(frame + metrics.horizontalAdvance(QString(characters, QLatin1Char('W'))));
+}
+
 void ToolForm::addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse) {
     const int row = paths_->rowCount();
     paths_->addWidget(label, row, 0, 1, 2);
@@ -123,6 +141,9 @@ void ToolForm::finish(std::initializer_list<QWidget*> tabOrder) {
             QWidget::setTabOrder(previous, control);
         previous = control;
     }
+    // The form opens with the focus on its first tab stop, not on the first control made.
+    if (tabOrder.size() != 0)
+        (*tabOrder.begin())->setFocus();
     form_.setFixedSize(form_.sizeHint());
 }
 

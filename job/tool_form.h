@@ -32,6 +32,10 @@ public:
     QPushButton* button(const char* name, const char* caption, const char* tip);
     QCheckBox* checkBox(const char* name, const char* caption, const char* tip);
     QRadioButton* optionButton(const char* name, const char* caption, const char* tip);
+    // One group of option buttons: Tab enters it at the selected one, the arrows move within.
+    void optionGroup(std::initializer_list<QRadioButton*> options);
+    // Widens `box` to show `characters` of the widest capitals whole.
+    static void fitCharacters(QLineEdit& box, int characters);
 
     void addPathRow(QLabel* label, QLineEdit* box, QPushButton* browse);
     // A row of controls among the path rows, in the order of the calls.
@@ -42,7 +46,7 @@ public:
                                 QStyle::StandardPixmap picture);
     void addCommandRow(QPushButton* go, QPushButton* cancel, QPushButton* about,
                        QStyle::StandardPixmap aboutPicture);
-    // Sets the tab order and fixes the size.
+    // Sets the tab order, gives the first tab stop the focus and fixes the size.
     void finish(std::initializer_list<QWidget*> tabOrder);
 
 private:

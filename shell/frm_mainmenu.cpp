@@ -253,6 +253,9 @@ bool IsWindowSwitch(Qt::FocusReason reason) {
 }  // namespace
 
 bool frm_mainmenu::eventFilter(QObject* watched, QEvent* event) {
+    // A menu greyed while a tool dialog is open describes nothing: it waits, unusable.
+    if (!isEnabled())
+        return QWidget::eventFilter(watched, event);
     const QEvent::Type type = event->type();
     // Switching to another window and back moves no focus within the menu.
     if ((type == QEvent::FocusIn || type == QEvent::FocusOut) &&

@@ -1,7 +1,7 @@
 // Torvane starts at its main menu; the application path is the current directory.
 
 #include "job/desktop_services.h"
-#include "job/enter_presses_button.h"
+#include "job/window_rules.h"
 #include "shell/frm_mainmenu.h"
 
 #include <QApplication>
@@ -11,7 +11,7 @@
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Torvane"));
-    app.installEventFilter(new torvane::EnterPressesFocusedButton(&app));
+    app.installEventFilter(new torvane::WindowRules(&app));
 
     torvane::QtMessageBoxes boxes;
     torvane::QtFileDialogs files;

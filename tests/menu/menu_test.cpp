@@ -1,7 +1,7 @@
 // The main menu: each button's dialog, opened by a click, an access key or Enter, and back.
 
 #include "about/mod_about.h"
-#include "job/enter_presses_button.h"
+#include "job/window_rules.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 
@@ -36,7 +36,7 @@ private slots:
         const QString tool = QTest::currentDataTag();
         test::FakeServices fakes;
         frm_mainmenu menu(fakes.services, QStringLiteral("/opt/torvane"));
-        EnterPressesFocusedButton filter;
+        WindowRules filter;
         qApp->installEventFilter(&filter);
         menu.show();
         QVERIFY(QTest::qWaitForWindowActive(&menu));
