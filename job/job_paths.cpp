@@ -68,7 +68,7 @@ QString UnsafePathReason(const QString& path) {
     if (path.contains(QStringLiteral("\\") + QLatin1Char(kPathSeparator)) ||
         (extension > nameStart && path.at(extension - 1) == QLatin1Char('\\')))
         return QStringLiteral(
-            "A folder's name in it, or its name before the extension, ends in a backslash.");
+            "A folder's name or the name before its extension ends in a backslash.");
     return {};
 }
 

@@ -79,8 +79,7 @@ echo Option switches:  /s /r
         QFETCH(QString, script);
         QCOMPARE(BuildLkvcdxripJob(in).scriptLines, Script(kBanner, script, true));
         QVERIFY(LkvcdxripValidation(in).isEmpty());
-        in.sep = '/';  // the root folder alone would leave "/o" with nothing
-        in.output = "/disc.xml";
+        in.output = "\\disc.xml";  // the root folder alone would leave "/o" with nothing
         QVERIFY(LkvcdxripValidation(in).startsWith("The output file cannot be saved in the root"));
         in.input = "movie.BIN";
         in.drive = QLatin1String(kScanFailedEntry);

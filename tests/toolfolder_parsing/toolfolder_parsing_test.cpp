@@ -56,10 +56,8 @@ private slots:
         QTest::addColumn<quint32>("lsn");
         QTest::addColumn<int>("from");  // in the 2352-byte sector
         QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("the sync pattern")
-            << 0u << 0 << QByteArray("\x00\xff\xff\xff\xff\xff\xff\xff\xff\xff\xff\x00", 12);
-        QTest::newRow("first sector: after the two-second lead-in, ending within the header")
-            << 0u << 12 << QByteArray("\x00\x02\x00", 3);
+        QTest::newRow("first sector: sync, then the time after the lead-in; ends in the header")
+            << 0u << 0 << QByteArray::fromHex("00ffffffffffffffffffff00000200");
         QTest::newRow("first of the second minute") << 4350u << 12 << QByteArray("\x01\x00\x00", 3);
         QTest::newRow("ten minutes: two BCD digits, Mode 2, then the data")
             << 44850u << 12 << QByteArray("\x10\x00\x00\x02", 4) + "data";
@@ -80,7 +78,6 @@ private slots:
         QTest::addColumn<qint64>("offset");
         QTest::addColumn<qint64>("landed");  // from 100 of 4704 bytes; minus the error if none
         QTest::newRow("back from the end") << SEEK_END << qint64(-2352) << qint64(2352);
-        QTest::newRow("far past the end") << SEEK_SET << (qint64(1) << 40) << (qint64(1) << 40);
         QTest::newRow("before the start") << SEEK_CUR << qint64(-101) << qint64(-EINVAL);
         QTest::newRow("beyond what an offset holds")
             << SEEK_END << std::numeric_limits<qint64>::max() << qint64(-EOVERFLOW);
@@ -90,10 +87,9 @@ private slots:
     void viewSeeksAsFseekoDoes() {
         QFETCH(int, whence);
         QFETCH(qint64, offset);
-        QFETCH(qint64, landed);
         off64_t position = offset;
         const int error = reading::SeekPosition(100, 4704, whence, &position);
-        QCOMPARE(error != 0 ? -qint64(error) : qint64(position), landed);
+        QTEST(error != 0 ? -qint64(error) : qint64(position), "landed");
     }
 
     void entriesGiveTheTrackStarts_data() {
