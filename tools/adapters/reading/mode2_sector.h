@@ -1,7 +1,8 @@
 #pragma once
 // A raw CD sector against a Mode 2 one: an image of 2336-byte sectors lacks the 12-byte
-// sync pattern and the 4-byte header that a 2352-byte sector begins with. Header-only
-// and free of the C++ library, as it also runs inside Debian's tools (see mode2_view.cpp).
+// sync pattern and the 4-byte header that a 2352-byte sector begins with. Here are the
+// bytes and the seeks of the 2352-byte view of such an image. Header-only and free of the
+// C++ library, as it also runs inside Debian's tools (see mode2_view.cpp).
 
 #include <stdio.h>
 #include <cerrno>
