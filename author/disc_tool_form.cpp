@@ -182,8 +182,8 @@ void DiscToolForm::cmd_rip_Click() {
     const DiscSettings disc = settings();
     const JobPlan plan = text_.buildJob(disc, firstBox->isChecked());
     const QString outputDir = SplitOutputPath(disc.output, disc.sep).output_dir;
-    if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc),
-                      QStringList{disc.output} + ListedPaths(disc.files.text),
+    // The list's names were each looked at as they were added (mpeg_load_dialog.cpp).
+    if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc), {disc.output},
                       {tool_folder, outputDir}))
         return;
     list_path = ListFilePath(disc);

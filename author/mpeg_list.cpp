@@ -32,14 +32,4 @@ MpegList WithoutLastEntry(const MpegList& list) {
     return {list.count - 1, list.text.left(lastEnd)};
 }
 
-QStringList ListedPaths(const QString& text) {
-    QStringList paths;
-    for (QString entry : text.split(kLineEnd, Qt::SkipEmptyParts)) {
-        if (entry.size() >= 2 && entry.startsWith(Quote) && entry.endsWith(Quote))
-            entry = entry.mid(1, entry.size() - 2);
-        paths << entry;
-    }
-    return paths;
-}
-
 }  // namespace torvane

@@ -5,7 +5,6 @@
 // the last. The same text, unchanged, is the list file that the tool reads.
 
 #include <QString>
-#include <QStringList>
 #include <optional>
 
 namespace torvane {
@@ -30,9 +29,5 @@ MpegList WithFileAdded(const MpegList& list, const QString& path);
 
 // `list` without its last entry, and without the line end before it.
 MpegList WithoutLastEntry(const MpegList& list);
-
-// The paths of the entries, without their quotes, to check at Go that each can be
-// carried through the list file.
-QStringList ListedPaths(const QString& text);
 
 }  // namespace torvane

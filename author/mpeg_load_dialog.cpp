@@ -1,6 +1,7 @@
 #include "author/mpeg_load_dialog.h"
 
 #include "job/form_support.h"
+#include "job/job_paths.h"
 #include "job/services.h"
 
 #include <QGridLayout>
@@ -120,8 +121,16 @@ void MpegLoadDialog::cmd_load_Click() {
                                       "list first."));
         return;
     }
-    if (const std::optional<QString> name =
-            PickFile(services_.files, BrowseKind::Open, kMpegFilter, QString()))
+    const std::optional<QString> name =
+        PickFile(services_.files, BrowseKind::Open, kMpegFilter, QString());
+    if (!name)
+        return;
+    // Each name is looked at as it was picked: once in the list text, a name holding quotes
+    // and a line end could no longer be told from two entries.
+    const QString refusal = UnsafePathMessage({*name});
+    if (!refusal.isEmpty())
+        InformationBox(services_.boxes, kInformation, refusal);
+    else
         show(WithFileAdded(list_, *name));
 }
 

@@ -50,7 +50,7 @@ private:
     void cmd_cancel_Click();
     void show(const MpegList& list);
 
-    MpegList list_;  // what the two boxes show, kept whole: a name may hold any character
+    MpegList list_;  // what the two boxes show, kept whole rather than read back from them
     QString& partnerTag_;
     Services& services_;
 };

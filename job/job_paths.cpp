@@ -61,6 +61,14 @@ QString UnsafePathReason(const QString& path) {
     }
     if (path.endsWith(QLatin1Char('\\')))
         return QStringLiteral("It ends in a backslash.");
+    // Job lines quote parts of a path on their own too: a folder without its separator, a
+    // name without its extension. A backslash that ends such a part ends it just the same.
+    const int nameStart = path.lastIndexOf(QLatin1Char(kPathSeparator)) + 1;
+    const int extension = path.lastIndexOf(QLatin1Char('.'));
+    if (path.contains(QStringLiteral("\\") + QLatin1Char(kPathSeparator)) ||
+        (extension > nameStart && path.at(extension - 1) == QLatin1Char('\\')))
+        return QStringLiteral(
+            "A folder's name or the name before its extension ends in a backslash.");
     return {};
 }
 

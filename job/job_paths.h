@@ -44,8 +44,9 @@ namespace torvane {
 
 // Why `path` cannot be carried safely through a job script, or empty when it can: a double
 // quote cannot stand between the script's quotes, a control character would split the
-// script's lines or draw on the console's screen (the end marker included), and a trailing
-// backslash would turn the closing quote into a literal one.
+// script's lines or draw on the console's screen (the end marker included), and a backslash
+// that ends the path, a folder's name or the name before its extension would turn the
+// closing quote of the whole or of that part into a literal one.
 QString UnsafePathReason(const QString& path);
 
 // The refusal of the first path of `paths` that cannot be carried, or empty.

@@ -17,10 +17,9 @@ QString Options(const LkvcdxripInputs& in) {
            (in.norip ? QStringLiteral(" /r") : QString());
 }
 
-// "/o" takes the folder without its trailing separator, even a drive's root.
-QString OutputSwitch(const OutputSplit& split) {
-    return QStringLiteral("/o ") +
-           Quoted(split.output_dir.chopped(split.output_dir.isEmpty() ? 0 : 1));
+// "/o" takes the folder without its trailing separator, even a drive's root: "E:".
+QString OutputFolder(const OutputSplit& split) {
+    return split.output_dir.chopped(split.output_dir.isEmpty() ? 0 : 1);
 }
 
 QString LkvcdxripInputSwitch(const LkvcdxripInputs& in) {
@@ -46,14 +45,21 @@ QString LkvcdxripValidation(const LkvcdxripInputs& in) {
     if (in.fromDrive &&
         !QRegularExpression(QStringLiteral("\\d, \\d, \\d$")).match(in.drive).hasMatch())
         return QStringLiteral("You have not selected a CD drive!");
-    if (in.fromDrive)
-        return {};
-    if (in.input.isEmpty())
+    if (!in.fromDrive && in.input.isEmpty())
         return QStringLiteral("You have not set an input CD image!");
-    if (LkvcdxripInputSwitch(in).isEmpty())
+    if (!in.fromDrive && LkvcdxripInputSwitch(in).isEmpty())
         return QStringLiteral(
             "The CD Image has not been recognised as either\rCUE/BIN image "
             "type or NRG (Nero Burning Rom)!");
+    // The root folder alone, with nothing before its separator, would leave "/o" empty.
+    const OutputSplit split = SplitOutputPath(in.output, in.sep);
+    if (!split.output_dir.isEmpty() && OutputFolder(split).isEmpty())
+        return QStringLiteral("The output file cannot be saved in the root folder:\r\r") +
+               ShownPath(in.output) +
+               QStringLiteral(
+                   "\r\rlkVCDxRIP is given the folder of its output without the last "
+                   "separator,\rwhich leaves nothing of the root folder.\rPlease choose a file "
+                   "in another folder.");
     return {};
 }
 
@@ -63,8 +69,8 @@ JobPlan BuildLkvcdxripJob(const LkvcdxripInputs& in) {
     JobPlan plan;
     plan.logPath = split.output_dir + QStringLiteral("log.txt");
     plan.commandLine = Quoted(in.toolFolder + QStringLiteral("lkvcdxrip.exe ")) + QLatin1Char(' ') +
-                       Options(in) + QLatin1Char(' ') + OutputSwitch(split) + QLatin1Char(' ') +
-                       input + QStringLiteral(" > log.txt");
+                       Options(in) + QStringLiteral(" /o ") + Quoted(OutputFolder(split)) +
+                       QLatin1Char(' ') + input + QStringLiteral(" > log.txt");
     PlaceJob(plan, split.output_dir,
              QStringLiteral("lkVCDxRIP Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input image:     ") + input.mid(3)

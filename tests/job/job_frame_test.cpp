@@ -156,6 +156,9 @@ void JobFrameTest::refusals_data() {
         "/m/\x1b[H***end***\rb\t\x7f", "<d>/", refused.arg("/m/?[H***end***?b??", control));
     row("a trailing backslash", "/m/dir\\", "<d>/",
         refused.arg("/m/dir\\", "It ends in a backslash."));
+    const QString part("A folder's name or the name before its extension ends in a backslash.");
+    row("a folder's closing backslash", "/m/H\\/d.xml", "<d>/", refused.arg("/m/H\\/d.xml", part));
+    row("a backslash before .toc", "/m/d\\.toc", "<d>/", refused.arg("/m/d\\.toc", part));
     row("a missing folder", "/a.mpg", "<d>/gone/", missing.arg("<d>/gone/"));
     // procfs refuses writes even to root, as a read-only folder refuses them to a user.
     row("a folder that cannot be written", "/a.mpg", "/proc/self/",

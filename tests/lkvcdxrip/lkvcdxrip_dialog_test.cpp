@@ -79,6 +79,8 @@ echo Option switches:  /s /r
         QFETCH(QString, script);
         QCOMPARE(BuildLkvcdxripJob(in).scriptLines, Script(kBanner, script, true));
         QVERIFY(LkvcdxripValidation(in).isEmpty());
+        in.output = "\\disc.xml";  // the root folder alone would leave "/o" with nothing
+        QVERIFY(LkvcdxripValidation(in).startsWith("The output file cannot be saved in the root"));
         in.input = "movie.BIN";
         in.drive = QLatin1String(kScanFailedEntry);
         QVERIFY(!LkvcdxripValidation(in).isEmpty());  // refused in either mode

@@ -1,7 +1,7 @@
 // The pure parts of the tool folder's adapters. Authoring: vcdxbuild's --gui output read and
 // split between log and console with its progress figures, and argument files. Reading:
-// the disc layout the adapters work out themselves, the addresses written into sectors
-// expanded from 2336 to 2352 bytes, the track starts read from ENTRIES.VCD and their times
+// the disc layout the adapters work out themselves, the bytes of sectors expanded from 2336
+// to 2352 bytes and the seeks in them, the track starts read from ENTRIES.VCD and their times
 // in the cue sheet. Images made in the tests are a few seconds long; the rows here reach
 // the minutes and the malformed entries that those images never show.
 
@@ -12,6 +12,7 @@
 
 #include <QTest>
 #include <cerrno>
+#include <limits>
 #include <vector>
 
 using namespace authoring;
@@ -53,23 +54,42 @@ class ToolFolderParsingTest : public QObject {
 private slots:
     void expandedSectorCarriesItsDiscAddress_data() {
         QTest::addColumn<quint32>("lsn");
-        QTest::addColumn<QByteArray>("msf");
-        QTest::newRow("first sector: after the two-second lead-in")
-            << 0u << QByteArray("\x00\x02\x00", 3);
-        QTest::newRow("first of the second minute") << 4350u << QByteArray("\x01\x00\x00", 3);
-        QTest::newRow("ten minutes: two BCD digits") << 44850u << QByteArray("\x10\x00\x00", 3);
+        QTest::addColumn<int>("from");  // in the 2352-byte sector
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("first sector: sync, then the time after the lead-in; ends in the header")
+            << 0u << 0 << QByteArray::fromHex("00ffffffffffffffffffff00000200");
+        QTest::newRow("first of the second minute") << 4350u << 12 << QByteArray("\x01\x00\x00", 3);
+        QTest::newRow("ten minutes: two BCD digits, Mode 2, then the data")
+            << 44850u << 12 << QByteArray("\x10\x00\x00\x02", 4) + "data";
     }
 
     void expandedSectorCarriesItsDiscAddress() {
         QFETCH(quint32, lsn);
-        QFETCH(QByteArray, msf);
-        unsigned char header[16];
-        reading::WriteSyncAndHeader(lsn, header);
-        const QByteArray bytes(reinterpret_cast<const char*>(header), 16);
-        QCOMPARE(bytes.left(12),
-                 QByteArray("\x00\xff\xff\xff\xff\xff\xff\xff\xff\xff\xff\x00", 12));
-        QCOMPARE(bytes.mid(12, 3).toHex(), msf.toHex());
-        QCOMPARE(int(header[15]), 2);
+        QFETCH(int, from);
+        QFETCH(QByteArray, bytes);
+        const unsigned char data[4] = {'d', 'a', 't', 'a'};  // the start of its 2336 bytes
+        QByteArray out(bytes.size(), '?');
+        reading::CopyRawBytes(lsn, data, std::size_t(from), std::size_t(out.size()), out.data());
+        QCOMPARE(out.toHex(), bytes.toHex());
+    }
+
+    void viewSeeksAsFseekoDoes_data() {
+        QTest::addColumn<int>("whence");
+        QTest::addColumn<qint64>("offset");
+        QTest::addColumn<qint64>("landed");  // from 100 of 4704 bytes; minus the error if none
+        QTest::newRow("back from the end") << SEEK_END << qint64(-2352) << qint64(2352);
+        QTest::newRow("before the start") << SEEK_CUR << qint64(-101) << qint64(-EINVAL);
+        QTest::newRow("beyond what an offset holds")
+            << SEEK_END << std::numeric_limits<qint64>::max() << qint64(-EOVERFLOW);
+        QTest::newRow("no such origin") << 7 << qint64(0) << qint64(-EINVAL);
+    }
+
+    void viewSeeksAsFseekoDoes() {
+        QFETCH(int, whence);
+        QFETCH(qint64, offset);
+        off64_t position = offset;
+        const int error = reading::SeekPosition(100, 4704, whence, &position);
+        QTEST(error != 0 ? -qint64(error) : qint64(position), "landed");
     }
 
     void entriesGiveTheTrackStarts_data() {

@@ -127,19 +127,18 @@ vcdxgen.exe  -v  --type=vcd11 -l   --info-album-id=  --volume-count=7 --volume-n
     // Loading, deleting and the two ways out, as the tool dialog sees them.
     void listTravelsOnlyOnOkay() {
         Fixture f("vcdxgen");
-        f.fakes.files.names = {"/a/one.mpg", std::nullopt, "/b/two files.x.mpg", "/a/one.mpg",
-                               "/c/three.mpg"};
+        f.fakes.files.names = {"/a/one.mpg",     std::nullopt, "/b/two files.x.mpg",
+                               "/d/x\"\r\n\"/y", "/a/one.mpg", "/c/three.mpg"};
         InListDialog(f, [](MpegLoadDialog& list) {
-            for (int i = 0; i < 5; ++i)
-                list.cmd_load->click();  // the second file dialog is cancelled
+            for (int i = 0; i < 6; ++i)
+                list.cmd_load->click();  // the second cancelled, the fourth two entries: refused
             list.cmd_delete->click();
             list.cmd_okay->click();
         });
         const QString three = "\"/a/one.mpg\"\r\n\"/b/two files.x.mpg\"\r\n\"/a/one.mpg\"";
         QCOMPARE(f.dialog.file_list, three);
+        QVERIFY(f.fakes.boxes.shown.at(0).text.contains("/d/x\"??\"/y"));
         QCOMPARE(f.dialog.txt_inputnumber->text(), QStringLiteral("3"));
-        QCOMPARE(f.fakes.files.filters.first(),
-                 "All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg");
 
         f.fakes.boxes.answers = {vbYes, vbYes};  // clear, then cancel
         InListDialog(f, [three](MpegLoadDialog& list) {

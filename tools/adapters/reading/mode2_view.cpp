@@ -25,7 +25,6 @@ namespace {
 using reading::kMode2SectorSize;
 using reading::kMode2ViewVariable;
 using reading::kRawSectorSize;
-using reading::kSyncHeaderSize;
 
 // Sectors read from the original per system call, and held in the stream's buffer: the
 // tools read a sector at a time, seeking before each.
@@ -86,21 +85,6 @@ bool ReadFully(int fd, unsigned char* data, std::size_t size, off_t offset) {
     return true;
 }
 
-// Copies bytes [from, from + count) of raw sector `lsn`, whose last 2336 bytes are `data`.
-void CopyRawBytes(std::uint32_t lsn, const unsigned char* data, std::size_t from, std::size_t count,
-                  char* out) {
-    if (from < kSyncHeaderSize) {
-        unsigned char header[kSyncHeaderSize];
-        reading::WriteSyncAndHeader(lsn, header);
-        const std::size_t part = count < kSyncHeaderSize - from ? count : kSyncHeaderSize - from;
-        std::memcpy(out, header + from, part);
-        out += part;
-        from += part;
-        count -= part;
-    }
-    std::memcpy(out, data + (from - kSyncHeaderSize), count);
-}
-
 ssize_t ReadView(void* cookie, char* out, std::size_t size) {
     View& view = *static_cast<View*>(cookie);
     const std::uint64_t end = ViewSize();
@@ -117,8 +101,8 @@ ssize_t ReadView(void* cookie, char* out, std::size_t size) {
             const std::uint64_t sectorEnd = (first + i + 1) * kRawSectorSize;
             const std::size_t from = view.position % kRawSectorSize;
             const std::size_t part = std::min(sectorEnd, wantedEnd) - view.position;
-            CopyRawBytes(static_cast<std::uint32_t>(first + i), view.chunk + i * kMode2SectorSize,
-                         from, part, out + done);
+            reading::CopyRawBytes(static_cast<std::uint32_t>(first + i),
+                                  view.chunk + i * kMode2SectorSize, from, part, out + done);
             done += part;
             view.position += part;
         }
@@ -128,18 +112,11 @@ ssize_t ReadView(void* cookie, char* out, std::size_t size) {
 
 int SeekView(void* cookie, off64_t* offset, int whence) {
     View& view = *static_cast<View*>(cookie);
-    off64_t base = 0;
-    if (whence == SEEK_CUR)
-        base = static_cast<off64_t>(view.position);
-    else if (whence == SEEK_END)
-        base = static_cast<off64_t>(ViewSize());
-    else if (whence != SEEK_SET)
-        base = -1;
-    if (base < 0 || base + *offset < 0) {
-        errno = EINVAL;
+    const int error = reading::SeekPosition(view.position, ViewSize(), whence, offset);
+    if (error != 0) {
+        errno = error;
         return -1;
     }
-    *offset += base;
     view.position = static_cast<std::uint64_t>(*offset);
     return 0;
 }
