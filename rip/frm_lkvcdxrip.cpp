@@ -69,9 +69,10 @@ frm_lkvcdxrip::frm_lkvcdxrip(frm_mainmenu& menu, Services& services)
     setObjectName(QStringLiteral("frm_lkvcdxrip"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("lkVCDxRIP - Torvane"));
-    setWindowState(Qt::WindowMinimized);
     buildControls();
     connectControls();
+    // After the form's fixed size is set: fixing the size clears a minimised state.
+    setWindowState(Qt::WindowMinimized);
     Form_Load();
 }
 
