@@ -7,27 +7,9 @@
 
 namespace torvane::test {
 
-namespace {
-
 // Long enough for any build of the test media on a busy machine; a run that takes longer
 // has hung.
 constexpr int kRunTimeoutMs = 180000;
-
-ToolRun Finish(QProcess& process) {
-    ToolRun run;
-    run.finished = process.waitForStarted() && process.waitForFinished(kRunTimeoutMs);
-    if (!run.finished) {
-        process.kill();
-        process.waitForFinished();
-    }
-    run.crashed = process.exitStatus() == QProcess::CrashExit;
-    run.exitCode = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.errors = process.readAllStandardError();
-    return run;
-}
-
-}  // namespace
 
 QString Media(const QString& name) {
     return QStringLiteral(TORVANE_MEDIA_DIR "/") + name;
@@ -49,7 +31,17 @@ ToolRun RunProgram(const QString& program, const QStringList& args, const QStrin
         process.setProcessEnvironment(env);
     }
     process.start(program, args);
-    return Finish(process);
+    ToolRun run;
+    run.finished = process.waitForStarted() && process.waitForFinished(kRunTimeoutMs);
+    if (!run.finished) {
+        process.kill();
+        process.waitForFinished();
+    }
+    run.crashed = process.exitStatus() == QProcess::CrashExit;
+    run.exitCode = process.exitCode();
+    run.out = process.readAllStandardOutput();
+    run.errors = process.readAllStandardError();
+    return run;
 }
 
 ToolRun RunScriptLine(const QByteArray& line, const QString& workDir) {

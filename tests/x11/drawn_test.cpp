@@ -6,7 +6,6 @@
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 
-#include <unistd.h>
 #include <QApplication>
 #include <QProcess>
 #include <QPushButton>
@@ -27,27 +26,14 @@ constexpr int kWindowTimeoutMs = 10000;
 // An Xvfb of the test's own on a free display, ended with the test.
 class XServer {
 public:
-    bool start() {
-        int fds[2];
-        if (pipe(fds) != 0)
-            return false;
-        server_.setProgram(QStringLiteral("Xvfb"));
-        server_.setArguments({QStringLiteral("-displayfd"), QString::number(fds[1]),
-                              QStringLiteral("-screen"), QStringLiteral("0"),
-                              QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"),
-                              QStringLiteral("tcp")});
-        server_.setChildProcessModifier([fds] { close(fds[0]); });
-        server_.start();
-        close(fds[1]);
-        QByteArray display;
-        char c;
-        while (read(fds[0], &c, 1) == 1 && c != '\n')
-            display += c;
-        close(fds[0]);
-        if (display.isEmpty())
-            return false;
+    bool start() {  // Xvfb names its display on its standard output
+        server_.start(QStringLiteral("Xvfb"),
+                      {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+        while (!server_.canReadLine() && server_.waitForReadyRead(kWindowTimeoutMs)) {
+        }
+        const QByteArray display = server_.readLine().trimmed();
         qputenv("DISPLAY", ":" + display);
-        return true;
+        return !display.isEmpty();
     }
     ~XServer() {
         server_.terminate();
