@@ -1,20 +1,55 @@
-// Torvane starts at its main menu; the application path is the current directory.
+// Torvane starts at its main menu; the application path is the current directory. The
+// command line: start_file.h.
 
 #include "job/desktop_services.h"
 #include "job/enter_presses_button.h"
 #include "shell/frm_mainmenu.h"
+#include "shell/start_file.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
+#include <QMessageBox>
 #include <cstdio>
 
+namespace {
+
+// The installed icon: from the desktop's icon theme, else from the icons installed beside
+// the program (PREFIX/share/icons for PREFIX/lib/torvane/torvane) or built beside it
+// (BUILD/share/icons for BUILD/app/torvane).
+QIcon InstalledIcon() {
+    const QString folder = QCoreApplication::applicationDirPath();
+    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths()
+                               << folder + QStringLiteral("/../../share/icons")
+                               << folder + QStringLiteral("/../share/icons"));
+    return QIcon::fromTheme(QStringLiteral("torvane"));
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
+    // Before any window system is asked for: these print and end.
+    if (argc > 1) {
+        const QString text = torvane::OptionText(QString::fromLocal8Bit(argv[1]));
+        if (!text.isEmpty()) {
+            std::fputs(qPrintable(text), stdout);
+            return 0;
+        }
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Torvane"));
+    QApplication::setWindowIcon(InstalledIcon());
+    // The launcher's word that the program cannot start: shown, and the start ends there.
+    const QString failure = qEnvironmentVariable("TORVANE_START_FAILURE");
+    if (!failure.isEmpty()) {
+        QMessageBox::critical(nullptr, QStringLiteral("Torvane"), failure);
+        return 1;
+    }
     app.installEventFilter(new torvane::EnterPressesFocusedButton(&app));
 
     torvane::QtMessageBoxes boxes;
-    torvane::QtFileDialogs files;
+    torvane::QtFileDialogs shownFiles;
+    torvane::ChosenFileDialogs files(shownFiles);
     torvane::QtDesktop desktop;
     torvane::Services services{boxes, files, desktop};
 
@@ -25,5 +60,8 @@ int main(int argc, char* argv[]) {
         std::printf("application folder: %s\n", qPrintable(QDir::currentPath()));
         return 0;
     }
+    const QStringList named = QApplication::arguments().mid(1);
+    if (!named.isEmpty())
+        torvane::OpenToolWithFile(menu, files, named.first());
     return app.exec();
 }
