@@ -8,21 +8,30 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
 #include <cstdio>
 
 namespace {
 
-// The installed icon: from the desktop's icon theme, else from the icons installed beside
-// the program (PREFIX/share/icons for PREFIX/lib/torvane/torvane) or built beside it
-// (BUILD/share/icons for BUILD/app/torvane).
+// The installed icon: the desktop's icon theme may draw its own; else the PNG files installed
+// beside the program (PREFIX/share/icons for PREFIX/lib/torvane/torvane) or built beside it
+// (BUILD/share/icons for BUILD/app/torvane), read directly: without the hicolor theme's
+// index, which not every system has, Qt finds no icon there.
 QIcon InstalledIcon() {
     const QString folder = QCoreApplication::applicationDirPath();
-    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths()
-                               << folder + QStringLiteral("/../../share/icons")
-                               << folder + QStringLiteral("/../share/icons"));
-    return QIcon::fromTheme(QStringLiteral("torvane"));
+    QIcon files;
+    for (const QString& share :
+         {folder + QStringLiteral("/../../share"), folder + QStringLiteral("/../share")}) {
+        const QDir hicolor(share + QStringLiteral("/icons/hicolor"));
+        for (const QString& size : hicolor.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const QString png = hicolor.filePath(size + QStringLiteral("/apps/torvane.png"));
+            if (QFileInfo::exists(png))
+                files.addFile(png);
+        }
+    }
+    return QIcon::fromTheme(QStringLiteral("torvane"), files);
 }
 
 }  // namespace
