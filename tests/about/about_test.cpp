@@ -51,7 +51,7 @@ private slots:
         QVERIFY(QFile::remove(app.filePath("author.txt")));  // the texts are read as it opens
         about.show();
         QVERIFY(QTest::qWaitForWindowActive(&about));
-        QVERIFY(about.lblVersion->text().startsWith(QStringLiteral("Version 1.1.207\n")));
+        QVERIFY(about.lblVersion->text().startsWith("Version " TORVANE_VERSION "\n"));
         QCOMPARE(QApplication::focusWidget(), about.cmdOK);
         about.findChild<QWidget*>(focus)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));

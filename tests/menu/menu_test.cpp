@@ -3,10 +3,14 @@
 #include "about/mod_about.h"
 #include "job/window_rules.h"
 #include "shell/frm_mainmenu.h"
+#include "shell/start_file.h"
 #include "tests/support/fake_services.h"
+#include "tests/support/tool_run.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace torvane;
@@ -60,6 +64,44 @@ private slots:
         QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
         QVERIFY(menu.isEnabled() && !menu.isMinimized());
         QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out
+    }
+
+    // Started with a file: its tool opens with the file in the input box, picked through the
+    // box's Browse button without a dialog shown (the fake dialog would answer nothing); the
+    // next Browse shows one.
+    void startedWithFile_data() {
+        QTest::addColumn<QString>("tool");  // empty: the menu alone
+        const char* const rows[][2] = {{"/m/Disc.CUE", "subindex"}, {"/m/videocd.xml", "vcdxbuild"},
+                                       {"/m/disc.bin", "vcdxrip"},  {"/m/disc.nrg", "vcdxrip"},
+                                       {"/m/a.mpeg", "vcdxminfo"},  {"/m/a.m2v", "vcdxminfo"},
+                                       {"/m/notes.txt", ""},        {"/m/mpg", ""},
+                                       {"MPEG stream", "vcdxminfo"}};
+        for (const auto& [file, tool] : rows)
+            QTest::newRow(file) << QString(tool);
+    }
+
+    void startedWithFile() {
+        QFETCH(QString, tool);
+        QTemporaryDir dir;
+        QString file = QTest::currentDataTag();
+        if (!file.startsWith('/'))  // a file named for no tool, whose content tells its type
+            QVERIFY(test::WriteBytes(file = dir.filePath(file), QByteArray("\0\0\1\xba", 4)));
+        test::FakeServices fakes;
+        ChosenFileDialogs files(fakes.files);
+        Services services{fakes.boxes, files, fakes.desktop};
+        frm_mainmenu menu(services, QStringLiteral("/opt/torvane"));
+        menu.show();
+        QWidget* dialog = OpenToolWithFile(menu, files, file);
+        QCOMPARE(dialog != nullptr, !tool.isEmpty());
+        if (!dialog)
+            return;
+        QCOMPARE(dialog, ComponentDialog(tool));  // and no other
+        auto* input = dialog->findChild<QLineEdit*>(QStringLiteral("txt_input"));
+        QCOMPARE(input->text(), file);
+        fakes.files.names.push_back(QStringLiteral("/m/other"));
+        dialog->findChild<QPushButton*>(QStringLiteral("cmd_input"))->click();
+        QCOMPARE(input->text(), QStringLiteral("/m/other"));
+        QVERIFY(dialog->close());
     }
 };
 
