@@ -82,7 +82,7 @@ double EngineSeconds(frm_mainmenu& menu, FakeServices& fakes, const QString& cli
     }
     QElapsedTimer tail;
     tail.start();
-    PressKeyInConsole(dialog->frame);
+    PressKeyInConsole();
     WaitForIdle(dialog->frame);
     const double afterKey = tail.nsecsElapsed() / 1e9;
     dialog->close();

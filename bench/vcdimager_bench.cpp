@@ -74,7 +74,7 @@ double JobSeconds(frm_mainmenu& menu, FakeServices& fakes, const QString& clip,
     clock.start();
     dialog->cmd_rip->click();
     WaitForPause(dialog->frame);
-    PressKeyInConsole(dialog->frame);
+    PressKeyInConsole();
     WaitForIdle(dialog->frame);
     const double seconds = clock.nsecsElapsed() / 1e9;
     dialog->close();

@@ -1,24 +1,25 @@
 #pragma once
-// CConsole: the one console of the program. On this platform the console is a
-// pseudo-terminal whose output is drawn on an 80x25 libvterm screen, shown in a console
-// window of its own. The job engine reads row 0 of that screen to find the end marker.
+// CConsole: the one console of the program, a session without a window. On this platform
+// the console is a pseudo-terminal whose output is drawn on an 80x25 libvterm screen; the
+// job engine reads row 0 of that screen to find the end marker. What shows the screen (the
+// console window) is attached by the console's owner and goes when the console goes.
 //
 // Only one CConsole can exist at a time, as only one console can belong to a process:
 // constructing a second one raises 10102. Destroying the object hangs up the terminal,
-// ends whatever still runs in it (SIGHUP, then SIGKILL after a short grace) and closes
-// the window.
+// ends whatever still runs in it (SIGHUP, then SIGKILL after a short grace) and drops its
+// view.
 
-#include <sys/types.h>
 #include <QByteArray>
 #include <QString>
-#include <QtGlobal>
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
 
-class QWidget;
-
 namespace torvane {
+
+namespace platform {
+class ScreenModel;
+}
 
 class MessageBoxes;
 
@@ -29,6 +30,13 @@ public:
     int number;
     QString source;
     QString description;
+};
+
+// What shows a console: told whenever its screen or its title has changed.
+class ConsoleView {
+public:
+    virtual ~ConsoleView() = default;
+    virtual void consoleChanged() = 0;
 };
 
 class CConsole {
@@ -44,40 +52,24 @@ public:
 
     QString title() const;
     void setTitle(const QString& New_Title);
-    int32_t ForeColor() const;
+    // The colour number of the text; bits above its four colour the background, as in a
+    // text attribute.
     void setForeColor(int32_t New_Color);
-    int32_t BackColor() const;
-    void setBackColor(int32_t New_Color);
-    bool BackIntense() const;
-    void setBackIntense(bool New_Value);
-    bool ForeIntense() const;
     void setForeIntense(bool New_Value);
-    QString BufferLength() const;
-    void setBufferLength(const QString& New_BufferLength);
 
-    // Writes the text at the cursor of the screen.
-    void WriteText(const QString& sText);
-    // Waits for one line typed in the console window and returns it without its line end.
-    QString ConsoleRead();
     // Drains what the terminal has written, then returns the 9 characters of row 0.
     QString WordScan();
-    // Writes the text at row 0, column 0 of the screen; the cursor stays where it was.
-    void InsertWord(const QString& sText);
     // Starts a program in the terminal, in the current directory, and goes on at once.
     // A ".bat" job script is run by torvane-cmd. Failures are ignored.
     void StartApp(const QString& sFilepath);
 
-    // What this platform adds, for the console window, tests and benchmarks.
-    // Bytes as if typed on the keyboard of the console window.
+    // The screen, as the programs in the terminal have drawn it. Output is taken as it
+    // comes while the event loop runs.
+    platform::ScreenModel& screen();
+    // Bytes for the programs, as if typed on a keyboard.
     void sendInput(const QByteArray& bytes);
-    // The whole screen, rows joined by '\n', trailing blanks of each row dropped.
-    QString screenText();
-    // The process started by StartApp, or -1.
-    pid_t processId() const;
-    // The console window (top-level, shown from construction to destruction).
-    QWidget* window() const;
-    // The text attribute as SetColors last computed it.
-    int attribute() const;
+    // Holds `view` from now on and tells it of every change; drops it first when it goes.
+    void attachView(std::unique_ptr<ConsoleView> view);
 
     // Where torvane-cmd lies. By default: beside the running executable.
     static void setInterpreterPath(const QString& path);

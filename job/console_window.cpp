@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace torvane {
@@ -94,8 +95,9 @@ private:
     ConsoleWindow& console_;
 };
 
-ConsoleWindow::ConsoleWindow(platform::ScreenModel& screen, TypedHandler typed)
-    : QWidget(nullptr, Qt::Window), screen_(screen), typed_(std::move(typed)) {
+ConsoleWindow::ConsoleWindow(CConsole& console)
+    : QWidget(nullptr, Qt::Window), console_(console), screen_(console.screen()) {
+    setWindowTitle(console.title());
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
@@ -128,7 +130,9 @@ void ConsoleWindow::fitWhole() {
     resize(whole);
 }
 
-void ConsoleWindow::screenChanged() {
+void ConsoleWindow::consoleChanged() {
+    if (windowTitle() != console_.title())
+        setWindowTitle(console_.title());
     if (!repaintTimer_.isActive())
         repaintTimer_.start();
 }
@@ -220,8 +224,7 @@ void ConsoleWindow::keyPressEvent(QKeyEvent* event) {
         return;
     }
     scrollBack(-linesBack_);  // typing brings the live screen back
-    if (typed_)
-        typed_(bytes);
+    console_.sendInput(bytes);
     event->accept();
 }
 
@@ -235,6 +238,14 @@ void ConsoleWindow::closeEvent(QCloseEvent* event) {
 
 bool ConsoleWindow::focusNextPrevChild(bool) {
     return false;
+}
+
+ConsoleWindow& AttachConsoleWindow(CConsole& console) {
+    auto window = std::make_unique<ConsoleWindow>(console);
+    ConsoleWindow& shown = *window;
+    shown.show();
+    console.attachView(std::move(window));
+    return shown;
 }
 
 }  // namespace torvane

@@ -1,16 +1,16 @@
 #pragma once
-// The console window: a top-level window that paints the console screen, cell by cell in
-// a fixed-pitch font, and turns the keys typed in it into the bytes a terminal sends.
-// It holds no state of the console: the screen model and the receiver of typed bytes
-// belong to CConsole. Shrunk below the screen's size, the window scrolls over the screen,
-// so that nothing of it, the prompt of a pause included, is out of reach.
+// The console window: a top-level window that paints the screen of a console, cell by cell
+// in a fixed-pitch font, titled by the console's title, and sends the keys typed in it to
+// the console as the bytes a terminal sends. It holds no state of the console. Shrunk below
+// the screen's size, the window scrolls over the screen, so that nothing of it, the prompt
+// of a pause included, is out of reach.
 
+#include "job/cconsole.h"
 #include "platform/screen_model.h"
 
 #include <QByteArray>
 #include <QTimer>
 #include <QWidget>
-#include <functional>
 
 class QKeyEvent;
 class QLabel;
@@ -19,15 +19,14 @@ class QWheelEvent;
 
 namespace torvane {
 
-class ConsoleWindow : public QWidget {
+class ConsoleWindow : public QWidget, public ConsoleView {
     Q_OBJECT
 public:
-    using TypedHandler = std::function<void(const QByteArray& bytes)>;
+    explicit ConsoleWindow(CConsole& console);
 
-    ConsoleWindow(platform::ScreenModel& screen, TypedHandler typed);
-
-    // The screen has changed: repaint soon, several changes at once.
-    void screenChanged();
+    // The screen or the title has changed: the title at once, the cells soon, several
+    // changes in one repaint.
+    void consoleChanged() override;
     // How many lines the view is scrolled back into the scrollback; 0 shows the live screen.
     int linesBack() const { return linesBack_; }
 
@@ -49,12 +48,15 @@ private:
     void scrollBack(int lines);
     void paintRow(QPainter& painter, int row, int ascent) const;
 
+    CConsole& console_;
     platform::ScreenModel& screen_;
-    TypedHandler typed_;
     QTimer repaintTimer_;
     QWidget* view_ = nullptr;
     QLabel* closeNote_ = nullptr;
     int linesBack_ = 0;
 };
+
+// Shows a window for `console` and attaches it: the window goes when the console goes.
+ConsoleWindow& AttachConsoleWindow(CConsole& console);
 
 }  // namespace torvane

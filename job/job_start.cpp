@@ -1,5 +1,6 @@
 #include "job/job_start.h"
 
+#include "job/console_window.h"
 #include "job/form_support.h"
 #include "job/job_paths.h"
 #include "job/services.h"
@@ -31,6 +32,7 @@ std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& ti
     console->setTitle(title);
     console->setForeColor(2);
     console->setForeIntense(true);
+    AttachConsoleWindow(*console);
     console->StartApp(scriptPath);
     return console;
 }

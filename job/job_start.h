@@ -1,7 +1,7 @@
 #pragma once
 // The start of a console job, shared by the job frame and the regenerator's stages: the
-// script written whole as raw bytes, and a console titled and coloured as every job's
-// that runs it.
+// script written whole as raw bytes, and a console that runs it, titled and coloured as
+// every job's and shown in its window.
 
 #include "job/cconsole.h"
 #include "job/job_plan.h"
@@ -18,8 +18,9 @@ class MessageBoxes;
 // written (no script, no job: the console would wait forever for an end marker), or empty.
 QString WriteJobScript(const JobPlan& plan);
 
-// A new console running the script at `scriptPath` by its full path, so that only the
-// script just written may run. Raises ConsoleError when no console can be had.
+// A new console, shown in a console window that goes with it, running the script at
+// `scriptPath` by its full path, so that only the script just written may run. Raises
+// ConsoleError when no console can be had.
 std::unique_ptr<CConsole> StartJobConsole(MessageBoxes& boxes, const QString& title,
                                           const QString& scriptPath);
 

@@ -1,4 +1,5 @@
-// The console: its screen fed bytes alone, and CConsole running real programs to the end.
+// The console: its screen fed bytes alone, CConsole running real programs to the end without
+// a window, and the window that paints it and takes the keys.
 
 #include "job/cconsole.h"
 #include "job/console_window.h"
@@ -8,10 +9,8 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 #include <csignal>
 #include <memory>
@@ -85,60 +84,31 @@ private slots:
         QCOMPARE(screen->scrolledBackRow(6, 6), std::nullopt);  // the live screen's row 0
     }
 
-    void propertiesShowInTheWindowAndReadBack_data() {
-        QTest::addColumn<QList<int>>("colours");  // fore, back, back intense, fore intense
+    void theWindowPaintsInTheConsoleColours_data() {
+        QTest::addColumn<int>("colour");
+        QTest::addColumn<bool>("intense");
         QTest::addColumn<QColor>("text");
         QTest::addColumn<QColor>("paper");
-        QTest::addColumn<QString>("bufferLength");  // as set and as read back
-        QTest::newRow("job colours: bright green on black; a number")
-            << QList<int>{2, 0, 0, 1} << QColor(0, 255, 0) << QColor(0, 0, 0) << "300=300";
-        QTest::newRow("grey on navy; a half goes to the even neighbour")
-            << QList<int>{7, 16, 0, 0} << QColor(192, 192, 192) << QColor(0, 0, 128) << " 2.5=2";
-        QTest::newRow("white on dark grey, bits above the background ignored; no number")
-            << QList<int>{256 + 7, 0, 1, 1} << QColor(255, 255, 255) << QColor(128, 128, 128)
-            << "abc=0";
+        QTest::newRow("job colours: bright green on black")
+            << 2 << true << QColor(0, 255, 0) << QColor(0, 0, 0);
+        QTest::newRow("grey on navy: bits above the text's four colour the background")
+            << 16 + 7 << false << QColor(192, 192, 192) << QColor(0, 0, 128);
+        QTest::newRow("white on black: bits above the background ignored")
+            << 256 + 7 << true << QColor(255, 255, 255) << QColor(0, 0, 0);
     }
 
-    void propertiesShowInTheWindowAndReadBack() {
-        QFETCH(QList<int>, colours);
+    void theWindowPaintsInTheConsoleColours() {
+        QFETCH(int, colour);
+        QFETCH(bool, intense);
         QFETCH(QColor, text);
         QFETCH(QColor, paper);
-        QFETCH(QString, bufferLength);
         CConsole console;
-        console.setForeColor(colours[0]);
-        console.setBackColor(colours[1]);
-        console.setBackIntense(colours[2]);
-        console.setForeIntense(colours[3]);
-        QCOMPARE(PixelOfFirstCell(console.window()), paper);
-        console.WriteText(QStringLiteral("\x1b[7m \x1b[m"));  // a blank in reverse video
-        QCOMPARE(PixelOfFirstCell(console.window()), text);
-        console.setBufferLength(QStringLiteral("17"));
-        console.setBufferLength(bufferLength.section(QLatin1Char('='), 0, 0));
-        QCOMPARE(console.BufferLength(), bufferLength.section(QLatin1Char('='), 1));
-    }
-
-    // What the console itself writes, inserts at the top left and reads, while the one
-    // console and its window live.
-    void theOneConsoleWritesInsertsAndReadsUntilDropped() {
-        auto console = std::make_unique<CConsole>();
-        QPointer<QWidget> window = console->window();
-        window->close();
-        QVERIFY2(window->isVisible(), "the console stands open until it is dropped");
-        console->WriteText(QStringLiteral("still here\r\nsecond"));
-        console->InsertWord(kMarker + QStringLiteral("\x1b[2J\r\n"));  // no control character acts
-        QCOMPARE(console->WordScan(), kMarker);
-        // Typed while ConsoleRead waits: a cursor key edits nothing, a pasted line ends at
-        // its first line end.
-        QTimer::singleShot(0, [&] {
-            for (const char* typed : {"h\xc3\xa9", "\x7f", "\x1b[A", "e\rtwo\r"})
-                console->sendInput(typed);
-        });
-        QCOMPARE(console->ConsoleRead(), QStringLiteral("he"));
-        console->WriteText(QStringLiteral("X"));
-        QCOMPARE(console->screenText().trimmed(), QStringLiteral("***end***?[2J??\nsecondhe\nX"));
-        console.reset();
-        QVERIFY(window.isNull());
-        QCOMPARE(CConsole().WordScan(), QString(9, QLatin1Char(' ')));
+        console.setForeColor(colour);
+        console.setForeIntense(intense);
+        torvane::ConsoleWindow window(console);
+        QCOMPARE(PixelOfFirstCell(&window), paper);
+        console.screen().feed("\x1b[7m \x1b[m");  // a blank in reverse video
+        QCOMPARE(PixelOfFirstCell(&window), text);
     }
 
     void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot_data() {
@@ -156,6 +126,7 @@ private slots:
         // only if the console keeps taking its output, though nothing reads the screen. Then
         // it takes bytes raw and shows them in hex.
         CConsole console;
+        torvane::ConsoleWindow& window = torvane::AttachConsoleWindow(console);
         console.StartApp(program(
             "i=0\nwhile [ $i -lt 7000 ]; do\n  printf 'line %04d %060d\\n' $i 0\n  i=$((i+1))\n"
             "done\n: > finished\nstty raw -echo\nprintf ready\nbytes=$(dd bs=1 count=" +
@@ -163,23 +134,24 @@ private slots:
             " 2>/dev/null | od -An -tx1 | tr -d ' \\n')\n"
             "printf '\\033[H\\033[2J%s' \"$bytes\"\nexec sleep 300"));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(QStringLiteral("finished")), 120000);
+        const auto screen = [&] { return console.screen().screenText(); };
         QVERIFY(QTest::qWaitFor(
             [&] {
-                return console.screenText().startsWith("line 6976 ") &&
-                       console.screenText().trimmed().endsWith("ready");
+                return screen().startsWith("line 6976 ") && screen().trimmed().endsWith("ready");
             },
             kWaitMs));
-        auto* window = qobject_cast<torvane::ConsoleWindow*>(console.window());
-        QTest::keyClick(window, Qt::Key_PageUp, Qt::ShiftModifier);
+        window.close();
+        QVERIFY2(window.isVisible(), "the console stands open until it is dropped");
+        QTest::keyClick(&window, Qt::Key_PageUp, Qt::ShiftModifier);
         QWheelEvent notch(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(window, &notch);
-        QCOMPARE(window->linesBack(), 24 + 3);  // a page and a notch of the wheel
-        QTest::keyClick(window, Qt::Key_PageDown, Qt::ShiftModifier);
-        QCOMPARE(window->linesBack(), 3);
-        QTest::keyClick(window, key.key(), key.keyboardModifiers());
-        QCOMPARE(window->linesBack(), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(console.screenText().trimmed(), received, kWaitMs);
+        QCoreApplication::sendEvent(&window, &notch);
+        QCOMPARE(window.linesBack(), 24 + 3);  // a page and a notch of the wheel
+        QTest::keyClick(&window, Qt::Key_PageDown, Qt::ShiftModifier);
+        QCOMPARE(window.linesBack(), 3);
+        QTest::keyClick(&window, key.key(), key.keyboardModifiers());
+        QCOMPARE(window.linesBack(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(screen().trimmed(), received, kWaitMs);
     }
 
     void programsStartAndNothingOfThemOutlivesTheConsole_data() {
@@ -201,7 +173,8 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, screen);
         CConsole::setInterpreterPath(dir_->filePath(QStringLiteral("interpreter")));
-        const QByteArray leaveChild = "trap '' HUP\nsleep 300 &\necho $! > child.pid\n";
+        const QByteArray leaveChild =
+            "trap '' HUP\necho $$ > self.pid\nsleep 300 &\necho $! > child.pid\n";
         if (!screen.isEmpty()) {
             program(leaveChild + "printf '[%s]' \"$@\"\nexec sleep 300",
                     QStringLiteral("interpreter"));
@@ -209,13 +182,13 @@ private slots:
         }
         auto console = std::make_unique<CConsole>();
         console->StartApp(name);
-        const pid_t pid = console->processId();
-        QCOMPARE(pid > 0, !screen.isEmpty());
-        QTRY_COMPARE_WITH_TIMEOUT(console->screenText().trimmed(), screen, kWaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(console->screen().screenText().trimmed(), screen, kWaitMs);
+        QCOMPARE(console->WordScan(), screen.leftJustified(9, QLatin1Char(' '), true));
+        const pid_t pid = ReadBytes(QStringLiteral("self.pid")).trimmed().toInt();
         const pid_t child = ReadBytes(QStringLiteral("child.pid")).trimmed().toInt();
         QVERIFY(screen.isEmpty() || (child > 0 && kill(child, 0) == 0));
         console.reset();
-        QVERIFY2(pid < 0 || kill(pid, 0) != 0, "the program runs on, or is a zombie");
+        QVERIFY2(pid <= 0 || kill(pid, 0) != 0, "the program runs on, or is a zombie");
         // The child ends at once; the system reaps it once its parent has gone.
         QTRY_VERIFY_WITH_TIMEOUT(child <= 0 || kill(child, 0) != 0, kWaitMs);
     }

@@ -3,6 +3,7 @@
 
 #include "job/form_support.h"
 #include "job/job_paths.h"
+#include "platform/console_colours.h"
 #include "tests/support/job_driver.h"
 
 #include <optional>
@@ -46,13 +47,13 @@ private slots:
         // Running: the console waits at "pause" with the tool's output on it.
         QVERIFY(WaitForPause(*frame_));
         QVERIFY(frame_->Timer1.Tag == "1" && dialog_->isMinimized() &&
-                frame_->console->attribute() == 10);
-        QVERIFY(frame_->console->title() == "Torvane -- Test Tool" &&
-                frame_->console->screenText().contains("tool ran"));
+                frame_->console->screen().defaultForeground() == platform::ConsoleColour(10));
+        QVERIFY(ShownConsoleWindow()->windowTitle() == "Torvane -- Test Tool" &&
+                frame_->console->screen().screenText().contains("tool ran"));
         QVERIFY(ReadBytes(work_->filePath("tool.out")) == "done\n" && events_.isEmpty());
-        // The key ends it: one report, console gone, still minimised; then idle and clean.
-        PressKeyInConsole(*frame_);
-        QVERIFY(WaitForIdle(*frame_));
+        // The key ends it: one report, console and window gone, still minimised; then idle.
+        PressKeyInConsole();
+        QVERIFY(WaitForIdle(*frame_) && !ShownConsoleWindow());
         QCOMPARE(events_, (QStringList{"report console=0 minimised=1", "enable"}));
         QVERIFY(!frame_->Timer1.Enabled() && frame_->Timer1.Tag == "0" && !dialog_->isMinimized());
         QVERIFY(!QFile::exists(job.scriptPath) && !QFile::exists(list));
@@ -61,11 +62,12 @@ private slots:
 
     void unloadWhileRunningAsksAndYesEndsEveryProcess() {
         const QString pidFile = work_->filePath("tool.pid");
-        app_->addTool("tool.exe", "echo $$ > '" + QFile::encodeName(pidFile) + "'\nexec sleep 60");
+        app_->addTool("tool.exe",
+                      "echo $$ $PPID > '" + QFile::encodeName(pidFile) + "'\nexec sleep 60");
         QVERIFY(frame_->Start(plan(work_->path())));
-        QTRY_VERIFY_WITH_TIMEOUT(!ReadBytes(pidFile).isEmpty(), kJobStepTimeoutMs);
-        const pid_t toolPid = ReadBytes(pidFile).trimmed().toInt();
-        const pid_t interpreterPid = frame_->console->processId();
+        QTRY_VERIFY_WITH_TIMEOUT(ReadBytes(pidFile).endsWith('\n'), kJobStepTimeoutMs);
+        const pid_t toolPid = ReadBytes(pidFile).split(' ')[0].toInt();
+        const pid_t interpreterPid = ReadBytes(pidFile).split(' ')[1].trimmed().toInt();
         fakes_.boxes.answers = {vbNo};
         QVERIFY(!frame_->Form_Unload() && fakes_.boxes.shown.back().defaultAnswer == vbNo);
         QCOMPARE(fakes_.boxes.shown.back().text,

@@ -2,12 +2,14 @@
 // For tests that drive a real job: fake tools, the steps of a user at the console, and a
 // tool dialog opened from the menu over fake services.
 
+#include "job/console_window.h"
 #include "job/job_frame.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/tool_run.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QPointer>
@@ -48,13 +50,23 @@ private:
 
 inline bool WaitForPause(JobFrame& frame) {
     return QTest::qWaitFor(
-        [&frame] { return frame.console && frame.console->screenText().contains("Press any key"); },
+        [&frame] {
+            return frame.console && frame.console->screen().screenText().contains("Press any key");
+        },
         kJobStepTimeoutMs);
 }
 
+// The console window on the screen, if there is one.
+inline ConsoleWindow* ShownConsoleWindow() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* window = qobject_cast<ConsoleWindow*>(widget); window && window->isVisible())
+            return window;
+    return nullptr;
+}
+
 // A key typed in the console window, as the user ends a job at "pause".
-inline void PressKeyInConsole(JobFrame& frame) {
-    QTest::keyClick(frame.console->window(), Qt::Key_Space);
+inline void PressKeyInConsole() {
+    QTest::keyClick(ShownConsoleWindow(), Qt::Key_Space);
 }
 
 inline bool WaitForIdle(JobFrame& frame) {
@@ -124,7 +136,7 @@ struct DialogFixture {
         if (!WaitForPause(dialog.frame))
             return false;
         fakes.boxes.answers = {answer};
-        PressKeyInConsole(dialog.frame);
+        PressKeyInConsole();
         return WaitForIdle(dialog.frame);
     }
 
