@@ -2,8 +2,8 @@
 
 #include "about/mod_browser32.h"
 #include "about/text_pane.h"
-#include "job/services.h"
-#include "shell/mod_general.h"
+#include "core/mod_general.h"
+#include "core/services.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -74,12 +74,9 @@ frmAbout::frmAbout(Services& services, const QString& appPath, QWidget* parent)
     // Enter with no button focused and Escape press the mail button (keyPressEvent).
     Command1->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmd_donate, &QPushButton::clicked, this,
-            [this] { FindURL(services_, DonationUrl()); });
-    connect(cmd_website, &QPushButton::clicked, this,
-            [this] { FindURL(services_, WebsiteUrl()); });
-    connect(Command1, &QPushButton::clicked, this,
-            [this] { SendMail(services_, AuthorMail()); });
+    connect(cmd_donate, &QPushButton::clicked, this, [this] { FindURL(services_, DonationUrl()); });
+    connect(cmd_website, &QPushButton::clicked, this, [this] { FindURL(services_, WebsiteUrl()); });
+    connect(Command1, &QPushButton::clicked, this, [this] { SendMail(services_, AuthorMail()); });
 
     auto* head = new QHBoxLayout;
     head->addWidget(icon);

@@ -1,6 +1,5 @@
 #include "about/frm_about_component.h"
 
-#include "about/mod_about.h"
 #include "about/text_pane.h"
 
 #include <QCloseEvent>
@@ -38,8 +37,8 @@ frm_about_component::frm_about_component()
 }
 
 void frm_about_component::closeEvent(QCloseEvent* event) {
-    if (QWidget* dialog = ComponentDialog(Tag))
-        dialog->setEnabled(true);
+    if (owner)
+        owner->setEnabled(true);
     event->accept();
 }
 

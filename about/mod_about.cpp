@@ -1,7 +1,7 @@
 #include "about/mod_about.h"
 
-#include "about/component_texts.h"
 #include "about/frm_about_component.h"
+#include "core/component_texts.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
@@ -18,14 +18,14 @@ QWidget* ComponentDialog(const QString& key) {
     return nullptr;
 }
 
-void ShowComponentAbout(const QString& key) {
+void ShowComponentAbout(QWidget& dialog, const QString& key) {
     auto* box = new frm_about_component;
     if (const std::optional<ComponentAbout> about = ComponentAboutFor(key)) {
         box->setWindowTitle(about->caption);
         box->Text1->setPlainText(about->text);
-        if (QWidget* dialog = ComponentDialog(key))
-            dialog->setEnabled(false);
+        dialog.setEnabled(false);
         box->Tag = key;
+        box->owner = &dialog;
     }
     box->show();
 }

@@ -1,7 +1,7 @@
 #pragma once
 // The About box of a console tool, opened by the About button of the tool's dialog. The
 // box is not modal: while it is open, the dialog that opened it is disabled, and closing
-// the box enables it again. The dialog is found by its object name, "frm_" and the key.
+// the box enables it again.
 
 #include <QString>
 
@@ -9,10 +9,11 @@ class QWidget;
 
 namespace torvane {
 
-// Shows the About box of the tool `key` ("vcdxrip", ...), without owner and not modal.
-void ShowComponentAbout(const QString& key);
+// Shows the About box of the tool `key` ("vcdxrip", ...) for its open `dialog`, without
+// owner and not modal.
+void ShowComponentAbout(QWidget& dialog, const QString& key);
 
-// The open tool dialog of `key`, or null.
+// The open tool dialog of `key` (its object name is "frm_" and the key), or null.
 QWidget* ComponentDialog(const QString& key);
 
 }  // namespace torvane

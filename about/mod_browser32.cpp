@@ -1,7 +1,7 @@
 #include "about/mod_browser32.h"
 
-#include "job/form_support.h"
-#include "job/services.h"
+#include "core/services.h"
+#include "forms/form_support.h"
 
 namespace torvane {
 

@@ -1,12 +1,10 @@
 #include "additional/frm_regen.h"
 
-#include "job/form_support.h"
-#include "job/job_paths.h"
+#include "core/job_paths.h"
+#include "core/mod_general.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 #include "job/job_start.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -42,8 +40,8 @@ void HandOver(JobTimer& from, JobTimer& to) {
 
 }  // namespace
 
-frm_regen::frm_regen(frm_mainmenu& menu, Services& services)
-    : QWidget(nullptr, Qt::Window), menu_(menu), services_(services) {
+frm_regen::frm_regen(const ToolContext& context)
+    : QWidget(nullptr, Qt::Window), context_(context), services_(context.services) {
     setObjectName(QStringLiteral("frm_regen"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("CUE/BIN Regenerator - Torvane"));
@@ -92,7 +90,7 @@ void frm_regen::buildControls() {
 }
 
 void frm_regen::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
     Timer1.setEnabled(false);
     Timer2.setEnabled(false);
@@ -360,7 +358,7 @@ void frm_regen::closeEvent(QCloseEvent* event) {
         status.reset();
         job_running = false;
     }
-    ReturnToMainMenu(menu_);
+    context_.returnToMenu();
     event->accept();
 }
 

@@ -7,10 +7,11 @@
 // time: each hands over by stopping itself and arming the next.
 
 #include "additional/frm_regen_status.h"
-#include "additional/regen_builder.h"
+#include "core/regen_builder.h"
+#include "core/services.h"
+#include "forms/tool_context.h"
 #include "job/cconsole.h"
 #include "job/job_timer.h"
-#include "job/services.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -24,12 +25,10 @@ class QPushButton;
 
 namespace torvane {
 
-class frm_mainmenu;
-
 class frm_regen : public QWidget {
     Q_OBJECT
 public:
-    frm_regen(frm_mainmenu& menu, Services& services);
+    frm_regen(const ToolContext& context);
     ~frm_regen() override;
 
     void cmd_rip_Click();
@@ -87,7 +86,7 @@ private:
     void setHeldFilesAside();
     void putHeldFilesBack();
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
     // What the work folder held before the run: the clean-up removes only what the run made.
     bool workRecorded_ = false;

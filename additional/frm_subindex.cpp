@@ -1,11 +1,10 @@
 #include "additional/frm_subindex.h"
 
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/whole_file_write.h"
+#include "core/job_paths.h"
+#include "core/mod_general.h"
+#include "core/whole_file_write.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -21,8 +20,8 @@ const QString kCueFilter = QStringLiteral("All Files (*.*)|*.*|CUE Files (*.cue)
 
 }  // namespace
 
-frm_subindex::frm_subindex(frm_mainmenu& menu, Services& services)
-    : QWidget(nullptr, Qt::Window), menu_(menu), services_(services) {
+frm_subindex::frm_subindex(const ToolContext& context)
+    : QWidget(nullptr, Qt::Window), context_(context), services_(context.services) {
     setObjectName(QStringLiteral("frm_subindex"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Subindicies Remover - Torvane"));
@@ -119,7 +118,7 @@ void frm_subindex::reportCreated(const QString& output) {
 }
 
 void frm_subindex::closeEvent(QCloseEvent* event) {
-    ReturnToMainMenu(menu_);
+    context_.returnToMenu();
     event->accept();
 }
 

@@ -2,7 +2,8 @@
 // The subindices remover: one cue sheet read, its copy-permit flags and subindex lines
 // dropped, and the result saved, all within one click. No console job, no timer.
 
-#include "job/services.h"
+#include "core/services.h"
+#include "forms/tool_context.h"
 
 #include <QWidget>
 
@@ -13,12 +14,10 @@ class QPushButton;
 
 namespace torvane {
 
-class frm_mainmenu;
-
 class frm_subindex : public QWidget {
     Q_OBJECT
 public:
-    frm_subindex(frm_mainmenu& menu, Services& services);
+    frm_subindex(const ToolContext& context);
 
     void cmd_rip_Click();
 
@@ -41,7 +40,7 @@ private:
     bool overwriteConfirmed(const QString& name);
     void reportCreated(const QString& output);
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
 };
 

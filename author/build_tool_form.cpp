@@ -1,15 +1,12 @@
 #include "author/build_tool_form.h"
 
 #include "about/mod_about.h"
-#include "author/cue_rewrite.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
-#include "shell/whole_file_write.h"
+#include "core/cue_rewrite.h"
+#include "core/job_paths.h"
+#include "core/mod_general.h"
+#include "core/whole_file_write.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -26,12 +23,12 @@ const QString kTocFilter = QStringLiteral("All Files (*.*)|*.*|TOC Files (*.toc)
 const QString kNrgFilter = QStringLiteral("All Files (*.*)|*.*|NRG Files (*.nrg)|*.nrg");
 }  // namespace
 
-BuildToolForm::BuildToolForm(frm_mainmenu& menu, Services& services, const BuildToolText& text)
+BuildToolForm::BuildToolForm(const ToolContext& context, const BuildToolText& text)
     : QWidget(nullptr, Qt::Window),
-      frame(*this, services, QString::fromUtf8(text.consoleTitle),
+      frame(*this, context.services, QString::fromUtf8(text.consoleTitle),
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      menu_(menu),
-      services_(services),
+      context_(context),
+      services_(context.services),
       text_(text) {
     setObjectName(QLatin1String(text.formName));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -98,12 +95,14 @@ void BuildToolForm::connectControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &BuildToolForm::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     const QString aboutKey = QString::fromUtf8(text_.aboutKey);
-    connect(cmd_about, &QPushButton::clicked, this, [aboutKey] { ShowComponentAbout(aboutKey); });
+    connect(cmd_about, &QPushButton::clicked, this,
+            [this, aboutKey] { ShowComponentAbout(*this, aboutKey); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void BuildToolForm::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QString::fromUtf8(text_.folderWord), QChar(kPathSeparator));
+    tool_folder =
+        ToolFolder(context_.appPath, QString::fromUtf8(text_.folderWord), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
 }
 
@@ -176,7 +175,7 @@ void BuildToolForm::report() {
 }
 
 void BuildToolForm::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -3,7 +3,8 @@
 // image, CUE/BIN or CDRDAO/TOC (or, with the fork, Nero), with the image size reported
 // from the job log and, on request, a cue sheet without subindices.
 
-#include "author/vcdxbuild_builder.h"
+#include "core/vcdxbuild_builder.h"
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
 
 #include <QString>
@@ -17,8 +18,6 @@ class QPushButton;
 class QRadioButton;
 
 namespace torvane {
-
-class frm_mainmenu;
 
 // The texts and choices in which the two forms differ.
 struct BuildToolText {
@@ -37,7 +36,7 @@ struct BuildToolText {
 class BuildToolForm : public QWidget {
     Q_OBJECT
 public:
-    BuildToolForm(frm_mainmenu& menu, Services& services, const BuildToolText& text);
+    BuildToolForm(const ToolContext& context, const BuildToolText& text);
 
     void cmd_rip_Click();
 
@@ -76,7 +75,7 @@ private:
     void setControlsEnabled(bool enabled);
     void report();
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
     const BuildToolText& text_;
 };

@@ -2,14 +2,11 @@
 
 #include "about/mod_about.h"
 #include "author/mpeg_load_dialog.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
-#include "shell/whole_file_write.h"
+#include "core/job_paths.h"
+#include "core/mod_general.h"
+#include "core/whole_file_write.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -21,13 +18,13 @@
 
 namespace torvane {
 
-DiscToolForm::DiscToolForm(frm_mainmenu& menu, Services& services, const DiscToolText& text)
+DiscToolForm::DiscToolForm(const ToolContext& context, const DiscToolText& text)
     : QWidget(nullptr, Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                            Qt::WindowCloseButtonHint),
-      frame(*this, services, QString::fromUtf8(text.consoleTitle),
+      frame(*this, context.services, QString::fromUtf8(text.consoleTitle),
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      services_(services),
-      menu_(menu),
+      services_(context.services),
+      context_(context),
       text_(text) {
     setObjectName(QLatin1String(text.formName));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -119,13 +116,14 @@ void DiscToolForm::buildControls() {
         });
     connect(cmd_rip, &QPushButton::clicked, this, &DiscToolForm::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
-    connect(cmd_about, &QPushButton::clicked, this, [aboutKey] { ShowComponentAbout(aboutKey); });
+    connect(cmd_about, &QPushButton::clicked, this,
+            [this, aboutKey] { ShowComponentAbout(*this, aboutKey); });
     MakeCancelButton(*this, *cmd_cancel);
     MakeDefaultButton(*this, *cmd_input);
 }
 
 void DiscToolForm::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
     file_count = 0;
     file_list.clear();
@@ -216,7 +214,7 @@ void DiscToolForm::report() {
 }
 
 void DiscToolForm::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -3,7 +3,8 @@
 // output file, the disc type and settings, and a job in the tool folder. Each tool adds
 // its own first check box (No PBC, or 2336-byte sectors), texts, job and report.
 
-#include "author/disc_settings.h"
+#include "core/disc_settings.h"
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
 
 #include <QString>
@@ -18,8 +19,6 @@ class QPushButton;
 class QRadioButton;
 
 namespace torvane {
-
-class frm_mainmenu;
 
 // The texts and choices in which the two forms differ.
 struct DiscToolText {
@@ -50,7 +49,7 @@ struct DiscToolText {
 class DiscToolForm : public QWidget {
     Q_OBJECT
 public:
-    DiscToolForm(frm_mainmenu& menu, Services& services, const DiscToolText& text);
+    DiscToolForm(const ToolContext& context, const DiscToolText& text);
 
     void cmd_input_Click();
     void cmd_rip_Click();
@@ -105,7 +104,7 @@ private:
     void report();
 
     Services& services_;
-    frm_mainmenu& menu_;
+    ToolContext context_;
     const DiscToolText& text_;
 };
 

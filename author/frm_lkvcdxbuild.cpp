@@ -20,7 +20,6 @@ const BuildToolText kText{
 
 }  // namespace
 
-frm_lkvcdxbuild::frm_lkvcdxbuild(frm_mainmenu& menu, Services& services)
-    : BuildToolForm(menu, services, kText) {}
+frm_lkvcdxbuild::frm_lkvcdxbuild(const ToolContext& context) : BuildToolForm(context, kText) {}
 
 }  // namespace torvane

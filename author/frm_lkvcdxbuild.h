@@ -3,13 +3,14 @@
 // also write a Nero image.
 
 #include "author/build_tool_form.h"
+#include "forms/tool_context.h"
 
 namespace torvane {
 
 class frm_lkvcdxbuild : public BuildToolForm {
     Q_OBJECT
 public:
-    frm_lkvcdxbuild(frm_mainmenu& menu, Services& services);
+    frm_lkvcdxbuild(const ToolContext& context);
 };
 
 }  // namespace torvane

@@ -1,7 +1,7 @@
 #include "author/frm_vcdimager.h"
 
-#include "author/vcdimager_builder.h"
-#include "job/form_support.h"
+#include "core/vcdimager_builder.h"
+#include "forms/form_support.h"
 
 #include <QCheckBox>
 
@@ -44,7 +44,7 @@ const DiscToolText kText{
 
 }  // namespace
 
-frm_vcdimager::frm_vcdimager(frm_mainmenu& menu, Services& services)
-    : DiscToolForm(menu, services, kText), chk_s2336(firstBox) {}
+frm_vcdimager::frm_vcdimager(const ToolContext& context)
+    : DiscToolForm(context, kText), chk_s2336(firstBox) {}
 
 }  // namespace torvane

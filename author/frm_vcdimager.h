@@ -3,13 +3,14 @@
 // with the image size in the report.
 
 #include "author/disc_tool_form.h"
+#include "forms/tool_context.h"
 
 namespace torvane {
 
 class frm_vcdimager : public DiscToolForm {
     Q_OBJECT
 public:
-    frm_vcdimager(frm_mainmenu& menu, Services& services);
+    frm_vcdimager(const ToolContext& context);
 
     QCheckBox* chk_s2336;
 };

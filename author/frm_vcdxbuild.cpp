@@ -20,7 +20,6 @@ const BuildToolText kText{
 
 }  // namespace
 
-frm_vcdxbuild::frm_vcdxbuild(frm_mainmenu& menu, Services& services)
-    : BuildToolForm(menu, services, kText) {}
+frm_vcdxbuild::frm_vcdxbuild(const ToolContext& context) : BuildToolForm(context, kText) {}
 
 }  // namespace torvane

@@ -3,13 +3,14 @@
 // vcdxbuild.exe.
 
 #include "author/build_tool_form.h"
+#include "forms/tool_context.h"
 
 namespace torvane {
 
 class frm_vcdxbuild : public BuildToolForm {
     Q_OBJECT
 public:
-    frm_vcdxbuild(frm_mainmenu& menu, Services& services);
+    frm_vcdxbuild(const ToolContext& context);
 };
 
 }  // namespace torvane

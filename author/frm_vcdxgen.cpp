@@ -1,7 +1,7 @@
 #include "author/frm_vcdxgen.h"
 
-#include "author/vcdxgen_builder.h"
-#include "job/form_support.h"
+#include "core/vcdxgen_builder.h"
+#include "forms/form_support.h"
 
 #include <QCheckBox>
 
@@ -40,7 +40,7 @@ const DiscToolText kText{
 
 }  // namespace
 
-frm_vcdxgen::frm_vcdxgen(frm_mainmenu& menu, Services& services)
-    : DiscToolForm(menu, services, kText), chk_nopbc(firstBox) {}
+frm_vcdxgen::frm_vcdxgen(const ToolContext& context)
+    : DiscToolForm(context, kText), chk_nopbc(firstBox) {}
 
 }  // namespace torvane

@@ -3,13 +3,14 @@
 // the user edits or hands to VCDXBUILD.
 
 #include "author/disc_tool_form.h"
+#include "forms/tool_context.h"
 
 namespace torvane {
 
 class frm_vcdxgen : public DiscToolForm {
     Q_OBJECT
 public:
-    frm_vcdxgen(frm_mainmenu& menu, Services& services);
+    frm_vcdxgen(const ToolContext& context);
 
     QCheckBox* chk_nopbc;
 };

@@ -1,8 +1,8 @@
 #include "author/mpeg_load_dialog.h"
 
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/services.h"
+#include "core/job_paths.h"
+#include "core/services.h"
+#include "forms/form_support.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

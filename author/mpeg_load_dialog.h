@@ -4,7 +4,7 @@
 // in and goes back through the partner's Tag as an exchange text (mpeg_list.h); the
 // partner's list changes only on Okay, as a cancelled dialog leaves Tag empty.
 
-#include "author/mpeg_list.h"
+#include "core/mpeg_list.h"
 
 #include <QDialog>
 #include <QString>

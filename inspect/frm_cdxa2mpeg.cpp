@@ -1,14 +1,11 @@
 #include "inspect/frm_cdxa2mpeg.h"
 
 #include "about/mod_about.h"
-#include "inspect/cdxa2mpeg_builder.h"
+#include "core/cdxa2mpeg_builder.h"
+#include "core/job_paths.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 #include "inspect/report_question.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -24,12 +21,12 @@ const QString kMediaFilter =
 const QString kMpegFilter = QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg)|*.mpg");
 }  // namespace
 
-frm_cdxa2mpeg::frm_cdxa2mpeg(frm_mainmenu& menu, Services& services)
+frm_cdxa2mpeg::frm_cdxa2mpeg(const ToolContext& context)
     : QWidget(nullptr, Qt::Window),
-      frame(*this, services, QStringLiteral("Torvane -- CDXA2MPEG Tool"),
+      frame(*this, context.services, QStringLiteral("Torvane -- CDXA2MPEG Tool"),
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      menu_(menu),
-      services_(services) {
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_cdxa2mpeg"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("CDXA2MPEG - Torvane"));
@@ -70,12 +67,12 @@ void frm_cdxa2mpeg::buildControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &frm_cdxa2mpeg::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(cmd_about, &QPushButton::clicked, this,
-            [] { ShowComponentAbout(QStringLiteral("cdxa2mpeg")); });
+            [this] { ShowComponentAbout(*this, QStringLiteral("cdxa2mpeg")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_cdxa2mpeg::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
 }
 
@@ -103,7 +100,7 @@ void frm_cdxa2mpeg::report() {
 }
 
 void frm_cdxa2mpeg::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -2,8 +2,9 @@
 // The CDXA2MPEG dialog: a media file copied off a disc, with the RIFF header that the copy
 // gained, turned back into a plain MPEG stream.
 
+#include "core/output_watch.h"
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
-#include "job/output_watch.h"
 
 #include <QString>
 #include <QWidget>
@@ -15,12 +16,10 @@ class QPushButton;
 
 namespace torvane {
 
-class frm_mainmenu;
-
 class frm_cdxa2mpeg : public QWidget {
     Q_OBJECT
 public:
-    frm_cdxa2mpeg(frm_mainmenu& menu, Services& services);
+    frm_cdxa2mpeg(const ToolContext& context);
 
     void cmd_rip_Click();
 
@@ -49,7 +48,7 @@ private:
     void setControlsEnabled(bool enabled);
     void report();
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
     OutputWatch output_;
 };

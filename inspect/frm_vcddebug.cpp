@@ -1,14 +1,11 @@
 #include "inspect/frm_vcddebug.h"
 
 #include "about/mod_about.h"
+#include "core/job_paths.h"
+#include "core/vcddebug_builder.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 #include "inspect/report_question.h"
-#include "inspect/vcddebug_builder.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -24,13 +21,13 @@ namespace {
 const QString kTextFilter = QStringLiteral("All Files (*.*)|*.*|Text Files (*.txt)|*.txt");
 }  // namespace
 
-frm_vcddebug::frm_vcddebug(frm_mainmenu& menu, Services& services)
+frm_vcddebug::frm_vcddebug(const ToolContext& context)
     : QWidget(nullptr, Qt::Window),
-      frame(*this, services, QStringLiteral("Torvane -- VCDDEBUG Tool"),
+      frame(*this, context.services, QStringLiteral("Torvane -- VCDDEBUG Tool"),
             {[this] { AskToOpenReport(services_, QStringLiteral("TXT"), txt_output->text()); },
              [this] { setControlsEnabled(true); }}),
-      menu_(menu),
-      services_(services) {
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_vcddebug"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("VCDDEBUG - Torvane"));
@@ -82,12 +79,12 @@ void frm_vcddebug::buildControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcddebug::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(cmd_about, &QPushButton::clicked, this,
-            [] { ShowComponentAbout(QStringLiteral("vcddebug")); });
+            [this] { ShowComponentAbout(*this, QStringLiteral("vcddebug")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_vcddebug::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
 }
 
@@ -112,7 +109,7 @@ void frm_vcddebug::setControlsEnabled(bool enabled) {
 }
 
 void frm_vcddebug::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

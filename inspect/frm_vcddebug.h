@@ -2,6 +2,7 @@
 // The VCDDEBUG dialog: a disc image's structure analysed, the report saved as a text file
 // by the tool's redirected output.
 
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
 
 #include <QString>
@@ -16,12 +17,10 @@ class QRadioButton;
 
 namespace torvane {
 
-class frm_mainmenu;
-
 class frm_vcddebug : public QWidget {
     Q_OBJECT
 public:
-    frm_vcddebug(frm_mainmenu& menu, Services& services);
+    frm_vcddebug(const ToolContext& context);
 
     void cmd_rip_Click();
 
@@ -52,7 +51,7 @@ private:
     void Form_Load();
     void setControlsEnabled(bool enabled);
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
 };
 

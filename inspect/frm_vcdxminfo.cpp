@@ -1,14 +1,11 @@
 #include "inspect/frm_vcdxminfo.h"
 
 #include "about/mod_about.h"
+#include "core/job_paths.h"
+#include "core/vcdxminfo_builder.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 #include "inspect/report_question.h"
-#include "inspect/vcdxminfo_builder.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -25,12 +22,12 @@ const QString kInputFilter = QStringLiteral(
     "*.mpg;*.mpeg;*.mpv;*.m2v;*.mp2");
 }  // namespace
 
-frm_vcdxminfo::frm_vcdxminfo(frm_mainmenu& menu, Services& services)
+frm_vcdxminfo::frm_vcdxminfo(const ToolContext& context)
     : QWidget(nullptr, Qt::Window),
-      frame(*this, services, QStringLiteral("Torvane -- VCDXMINFO Tool"),
+      frame(*this, context.services, QStringLiteral("Torvane -- VCDXMINFO Tool"),
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      menu_(menu),
-      services_(services) {
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_vcdxminfo"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("VCDXMINFO - Torvane"));
@@ -86,12 +83,12 @@ void frm_vcdxminfo::buildControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxminfo::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(cmd_about, &QPushButton::clicked, this,
-            [] { ShowComponentAbout(QStringLiteral("vcdxminfo")); });
+            [this] { ShowComponentAbout(*this, QStringLiteral("vcdxminfo")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_vcdxminfo::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
 }
 
@@ -140,7 +137,7 @@ void frm_vcdxminfo::report() {
 }
 
 void frm_vcdxminfo::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -2,8 +2,9 @@
 // The VCDXMINFO dialog: one MPEG file analysed for (S)VCD compliance, the report written
 // as an XML file by the tool.
 
+#include "core/output_watch.h"
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
-#include "job/output_watch.h"
 
 #include <QString>
 #include <QWidget>
@@ -16,12 +17,10 @@ class QGroupBox;
 
 namespace torvane {
 
-class frm_mainmenu;
-
 class frm_vcdxminfo : public QWidget {
     Q_OBJECT
 public:
-    frm_vcdxminfo(frm_mainmenu& menu, Services& services);
+    frm_vcdxminfo(const ToolContext& context);
 
     void cmd_rip_Click();
 
@@ -57,7 +56,7 @@ private:
     // The report is offered only when this job wrote it: a failed tool may leave an older one.
     OutputWatch output_;
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
 };
 

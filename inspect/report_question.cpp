@@ -1,7 +1,7 @@
 #include "inspect/report_question.h"
 
-#include "job/form_support.h"
-#include "job/services.h"
+#include "core/services.h"
+#include "forms/form_support.h"
 
 namespace torvane {
 

@@ -1,6 +1,6 @@
 #include "job/cconsole.h"
 
-#include "job/services.h"
+#include "core/services.h"
 #include "platform/console_colours.h"
 #include "platform/pty.h"
 #include "platform/screen_model.h"

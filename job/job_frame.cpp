@@ -1,6 +1,6 @@
 #include "job/job_frame.h"
 
-#include "job/form_support.h"
+#include "core/services.h"
 #include "job/job_start.h"
 
 #include <QDir>

@@ -5,10 +5,10 @@
 // its console title and gives it two hooks: the report of the end-of-job step and the
 // re-enabling of its controls (with its interlocks).
 
+#include "core/job_plan.h"
+#include "core/services.h"
 #include "job/cconsole.h"
-#include "job/job_plan.h"
 #include "job/job_timer.h"
-#include "job/services.h"
 
 #include <QObject>
 #include <QString>

@@ -1,9 +1,8 @@
 #include "job/job_start.h"
 
+#include "core/job_paths.h"
+#include "core/services.h"
 #include "job/console_window.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/services.h"
 #include "platform/replace_file.h"
 
 #include <unistd.h>

@@ -3,8 +3,8 @@
 // script written whole as raw bytes, and a console that runs it, titled and coloured as
 // every job's and shown in its window.
 
+#include "core/job_plan.h"
 #include "job/cconsole.h"
-#include "job/job_plan.h"
 
 #include <QProcess>
 #include <QString>

@@ -1,17 +1,14 @@
 #include "rip/frm_lkvcdxrip.h"
 
 #include "about/mod_about.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
+#include "core/job_paths.h"
+#include "core/lkvcdxrip_builder.h"
+#include "core/mod_general.h"
+#include "core/scan_list.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 #include "job/job_start.h"
-#include "job/tool_form.h"
-#include "rip/lkvcdxrip_builder.h"
 #include "rip/scan_forms.h"
-#include "rip/scan_list.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -60,12 +57,12 @@ QComboBox* List(QWidget* form, const char* name, const char* tip) {
 
 }  // namespace
 
-frm_lkvcdxrip::frm_lkvcdxrip(frm_mainmenu& menu, Services& services)
+frm_lkvcdxrip::frm_lkvcdxrip(const ToolContext& context)
     : QWidget(nullptr, kFixedDialogFlags),
-      frame(*this, services, QStringLiteral("Torvane -- lkVCDxRIP Tool"),
+      frame(*this, context.services, QStringLiteral("Torvane -- lkVCDxRIP Tool"),
             {[this] { report(); }, [this] { enableAfterJob(); }}),
-      menu_(menu),
-      services_(services) {
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_lkvcdxrip"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("lkVCDxRIP - Torvane"));
@@ -139,13 +136,14 @@ void frm_lkvcdxrip::connectControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &frm_lkvcdxrip::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(cmd_about, &QPushButton::clicked, this,
-            [] { ShowComponentAbout(QStringLiteral("lkvcdxrip")); });
+            [this] { ShowComponentAbout(*this, QStringLiteral("lkvcdxrip")); });
     connect(&Timer2, &QTimer::timeout, this, &frm_lkvcdxrip::Timer2_Timer);
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_lkvcdxrip::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("lkVCDImager"), QChar(kPathSeparator));
+    tool_folder =
+        ToolFolder(context_.appPath, QStringLiteral("lkVCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
     startScan();
 }
@@ -270,7 +268,7 @@ void frm_lkvcdxrip::report() {
 }
 
 void frm_lkvcdxrip::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -3,6 +3,7 @@
 // or straight from a disc in a CD drive. At every opening it scans for the machine's
 // drives (Timer2); until the scan ends the dialog lies minimised behind a wait box.
 
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
 #include "job/job_start.h"
 
@@ -20,14 +21,13 @@ class QRadioButton;
 
 namespace torvane {
 
-class frm_mainmenu;
 class frm_wait;
 struct LkvcdxripInputs;
 
 class frm_lkvcdxrip : public QWidget {
     Q_OBJECT
 public:
-    frm_lkvcdxrip(frm_mainmenu& menu, Services& services);
+    frm_lkvcdxrip(const ToolContext& context);
 
     void cmd_rip_Click();
     // The drive-option interlock: drive mode enables the two lists, image mode the image.
@@ -78,7 +78,7 @@ private:
     void enableAfterJob();
     void report();
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
 };
 

@@ -1,13 +1,10 @@
 #include "rip/frm_vcdxrip.h"
 
 #include "about/mod_about.h"
-#include "job/form_support.h"
-#include "job/job_paths.h"
-#include "job/tool_form.h"
-#include "shell/frm_mainmenu.h"
-#include "shell/mod_general.h"
-#include "shell/mod_mainmenu.h"
-#include "shell/tool_dialogs.h"
+#include "core/job_paths.h"
+#include "core/mod_general.h"
+#include "forms/form_support.h"
+#include "forms/tool_form.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -18,12 +15,12 @@
 
 namespace torvane {
 
-frm_vcdxrip::frm_vcdxrip(frm_mainmenu& menu, Services& services)
+frm_vcdxrip::frm_vcdxrip(const ToolContext& context)
     : QWidget(nullptr, kFixedDialogFlags),
-      frame(*this, services, QStringLiteral("Torvane -- VCDXRIP Tool"),
+      frame(*this, context.services, QStringLiteral("Torvane -- VCDXRIP Tool"),
             {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      menu_(menu),
-      services_(services) {
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_vcdxrip"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("VCDXRIP - Torvane"));
@@ -82,12 +79,12 @@ void frm_vcdxrip::connectControls() {
     connect(cmd_rip, &QPushButton::clicked, this, &frm_vcdxrip::cmd_rip_Click);
     connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(cmd_about, &QPushButton::clicked, this,
-            [] { ShowComponentAbout(QStringLiteral("vcdxrip")); });
+            [this] { ShowComponentAbout(*this, QStringLiteral("vcdxrip")); });
     MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_vcdxrip::Form_Load() {
-    tool_folder = ToolFolder(menu_.Tag, QStringLiteral("VCDImager"), QChar(kPathSeparator));
+    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
     crlf = QStringLiteral("\r\n");
 }
 
@@ -149,7 +146,7 @@ void frm_vcdxrip::report() {
 }
 
 void frm_vcdxrip::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, menu_);
+    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -2,8 +2,9 @@
 // The VCDXRIP dialog: a disc image, CUE/BIN or NRG, taken apart into its media files and
 // an XML descriptor, all in the folder of the descriptor.
 
+#include "core/vcdxrip_builder.h"
+#include "forms/tool_context.h"
 #include "job/job_frame.h"
-#include "rip/vcdxrip_builder.h"
 
 #include <QString>
 #include <QWidget>
@@ -16,13 +17,12 @@ class QPushButton;
 
 namespace torvane {
 
-class frm_mainmenu;
 class ToolForm;
 
 class frm_vcdxrip : public QWidget {
     Q_OBJECT
 public:
-    frm_vcdxrip(frm_mainmenu& menu, Services& services);
+    frm_vcdxrip(const ToolContext& context);
 
     void cmd_rip_Click();
 
@@ -61,7 +61,7 @@ private:
     void setControlsEnabled(bool enabled);
     void report();
 
-    frm_mainmenu& menu_;
+    ToolContext context_;
     Services& services_;
 };
 

@@ -1,7 +1,7 @@
 #include "rip/scan_forms.h"
 
 #include "about/mod_browser32.h"
-#include "job/services.h"
+#include "core/services.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

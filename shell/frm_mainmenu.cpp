@@ -1,10 +1,10 @@
 #include "shell/frm_mainmenu.h"
 
 #include "about/frmAbout.h"
-#include "job/desktop_services.h"
+#include "forms/desktop_services.h"
 #include "shell/mod_mainmenu.h"
 #include "shell/tool_descriptions.h"
-#include "shell/tool_dialogs.h"
+#include "shell/tool_registry.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -21,16 +21,6 @@
 #include <QVBoxLayout>
 
 namespace torvane {
-
-struct ToolButtonEntry {
-    const char* key;
-    int tab;
-    int frame;  // 0: the tab's first frame, 1: its second
-    const char* caption;
-    const char* tip;
-    const char* title;
-    QStyle::StandardPixmap picture;
-};
 
 namespace {
 
@@ -56,41 +46,6 @@ QString Label2Text() {
            QStringLiteral(" They were written by the makers of Torvane ") +
            QStringLiteral("and are exclusive to this program.");
 }
-
-}  // namespace
-
-// Keys, places, captions, tool tips and titles of the eleven tool buttons, in tab order
-// (but for lkvcdxrip, which comes last of all).
-namespace {
-
-const ToolButtonEntry kTools[] = {
-    {"vcdimager", 0, 0, "&vcdimager", "Use VCDIMAGER to make a S/VCD image from you MPEG.",
-     "VCDIMAGER", QStyle::SP_DriveCDIcon},
-    {"vcdxgen", 0, 0, "vcdx&gen", "Use VCDXGEN to generate a simple XML.", "VCDXGEN",
-     QStyle::SP_FileDialogDetailedView},
-    {"vcdxbuild", 0, 0, "vcdx&build", "Use VCDXBUILD to create your S/VCD image.", "VCDXBUILD",
-     QStyle::SP_DialogSaveButton},
-    {"vcdxrip", 0, 0, "vcdx&rip", "Use VCDXRIP to rip a disc image to XML and MPEG.", "VCDXRIP",
-     QStyle::SP_DialogOpenButton},
-    {"cdxa2mpeg", 0, 0, "&cdxa2mpeg",
-     "Use CDXA2MPEG to remove RIFF headers from MPEG files copied off S/VCDs.", "CDXA2MPEG",
-     QStyle::SP_MediaPlay},
-    {"vcdxminfo", 0, 1, "vcdxm&info", "Use VCDXMINFO to analyse MPEG files.", "VCDXMINFO",
-     QStyle::SP_FileDialogInfoView},
-    {"vcddebug", 0, 1, "vcd&debug", "Use VCDDEBUG to analyse a S/VCD disc image.", "VCDDEBUG",
-     QStyle::SP_FileDialogContentsView},
-    {"lkvcdxbuild", 1, 0, "lkvcdxbuild",
-     "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.", "lkVCDxBUILD",
-     QStyle::SP_DriveDVDIcon},
-    {"subindex", 2, 0, "&subindices",
-     "Use Subindicies Remover to strip the subindices from your cuesheets", "Subindicies Remover",
-     QStyle::SP_FileDialogListView},
-    {"regen", 2, 0, "rege&nerator",
-     "Use Image Regenerator to recreate a CUE/BIN image if you are missing the CUE file",
-     "CUE/BIN Regenerator", QStyle::SP_BrowserReload},
-    {"lkvcdxrip", 1, 0, "lkvcdxrip", "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files",
-     "lkVCDxRIP", QStyle::SP_DirOpenIcon},
-};
 
 }  // namespace
 
@@ -177,7 +132,7 @@ QWidget* frm_mainmenu::buildTab(const FrameNames& frames, int tab) {
         frameLayouts[frame] = new QVBoxLayout(box);
         row->addWidget(box);
     }
-    for (const ToolButtonEntry& entry : kTools) {
+    for (const ToolRow& entry : ToolRows()) {
         if (entry.tab == tab)
             addToolButton(entry, *frameLayouts[entry.frame]);
     }
@@ -203,7 +158,7 @@ QPushButton* frm_mainmenu::makeButton(const QString& name, const QString& captio
     return button;
 }
 
-void frm_mainmenu::addToolButton(const ToolButtonEntry& entry, QVBoxLayout& frameLayout) {
+void frm_mainmenu::addToolButton(const ToolRow& entry, QVBoxLayout& frameLayout) {
     const QString key = QLatin1String(entry.key);
     QPushButton* button = makeButton(QStringLiteral("cmd_") + key, QLatin1String(entry.caption),
                                      QLatin1String(entry.tip));
@@ -213,29 +168,23 @@ void frm_mainmenu::addToolButton(const ToolButtonEntry& entry, QVBoxLayout& fram
     frameLayout.addWidget(button);
     toolButtons[key] = button;
 
-    const bool available = ToolDialogFactories().count(key) != 0;
-    button->setEnabled(available);
     connect(button, &QPushButton::clicked, this, [this, key] { openTool(key); });
 }
 
 QWidget* frm_mainmenu::openTool(const QString& key) {
-    const auto& factories = ToolDialogFactories();
-    const auto factory = factories.find(key);
-    if (factory == factories.end())
+    const ToolRow* tool = FindTool(key);
+    if (!tool)
         return nullptr;
-    for (const ToolButtonEntry& entry : kTools) {
-        if (key == QLatin1String(entry.key))
-            EnterToolDialog(*this, QLatin1String(entry.title));
-    }
-    QWidget* dialog = factory->second(*this, services_);
+    EnterToolDialog(*this, QLatin1String(tool->title));
+    QWidget* dialog = tool->open({services_, Tag, [this] { ReturnToMainMenu(*this); }});
     dialog->show();
     return dialog;
 }
 
 void frm_mainmenu::applyTabOrder() {
     QWidget* previous = SSTab1;
-    for (const ToolButtonEntry& entry : kTools) {
-        if (QLatin1String(entry.key) == QLatin1String("lkvcdxrip"))
+    for (const ToolRow& entry : ToolRows()) {
+        if (entry.tabStopTab < 0)
             continue;
         QWidget* button = toolButtons[QLatin1String(entry.key)];
         setTabOrder(previous, button);
@@ -243,7 +192,15 @@ void frm_mainmenu::applyTabOrder() {
     }
     setTabOrder(previous, cmd_about);
     setTabOrder(cmd_about, cmd_quit);
-    setTabOrder(cmd_quit, toolButtons[QStringLiteral("lkvcdxrip")]);
+    // The buttons that are a tab stop on any tab come after Quit.
+    previous = cmd_quit;
+    for (const ToolRow& entry : ToolRows()) {
+        if (entry.tabStopTab >= 0)
+            continue;
+        QWidget* button = toolButtons[QLatin1String(entry.key)];
+        setTabOrder(previous, button);
+        previous = button;
+    }
 }
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 // The start-up form: one button per tool on three tabs, and the application path.
 
-#include "job/services.h"
+#include "core/services.h"
 
 #include <QString>
 #include <QWidget>
@@ -15,7 +15,7 @@ class QVBoxLayout;
 
 namespace torvane {
 
-struct ToolButtonEntry;
+struct ToolRow;
 
 class frm_mainmenu : public QWidget {
     Q_OBJECT
@@ -55,7 +55,7 @@ private:
         const char* secondCaption;
     };
     QWidget* buildTab(const FrameNames& frames, int tab);
-    void addToolButton(const ToolButtonEntry& entry, QVBoxLayout& frameLayout);
+    void addToolButton(const ToolRow& entry, QVBoxLayout& frameLayout);
     QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip);
     void applyTabOrder();
     void cmd_about_Click();

@@ -1,8 +1,8 @@
 // Torvane starts at its main menu; the application path is the current directory. The
 // command line: start_file.h.
 
-#include "job/desktop_services.h"
-#include "job/window_rules.h"
+#include "forms/desktop_services.h"
+#include "forms/window_rules.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/start_file.h"
 

@@ -5,7 +5,7 @@
 // box's file dialog (so the dialog does whatever it does after a pick). Any other start
 // opens the menu alone.
 
-#include "job/services.h"
+#include "core/services.h"
 
 #include <QString>
 

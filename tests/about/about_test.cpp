@@ -78,8 +78,8 @@ private slots:
         const QString key = QTest::currentDataTag();
         QFETCH(int, closeBy);
         frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
-        QPointer<QWidget> dialog = menu.openTool(key);  // the dialogs that exist so far
-        dialog ? dialog->findChild<QPushButton*>("cmd_about")->click() : ShowComponentAbout(key);
+        QPointer<QWidget> dialog = menu.openTool(key);
+        dialog->findChild<QPushButton*>("cmd_about")->click();
         QPointer<QWidget> box = ComponentDialog("about_component");
         QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
         auto* text = box->findChild<QPlainTextEdit*>("Text1");

@@ -1,7 +1,7 @@
 // The CDXA2MPEG dialog: its script, checks at Go, and real jobs on a RIFF/CDXA file made
 // from a track of the shared media, as a disc's AVSEQ01.DAT is when copied off it.
 
-#include "inspect/cdxa2mpeg_builder.h"
+#include "core/cdxa2mpeg_builder.h"
 #include "inspect/frm_cdxa2mpeg.h"
 #include "tests/support/job_driver.h"
 

@@ -1,7 +1,7 @@
 // The shared routines: validators, disc-fit advice, job logs, whole files read and written.
 
-#include "shell/mod_general.h"
-#include "shell/whole_file_write.h"
+#include "core/mod_general.h"
+#include "core/whole_file_write.h"
 #include "tests/support/file_size_limit.h"
 
 #include <sys/stat.h>

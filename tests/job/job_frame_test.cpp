@@ -1,8 +1,8 @@
 // The job frame through the real console and torvane-cmd: one job's states, the unload guard,
 // the ways a job cannot start, and the paths and folders Go refuses before writing anything.
 
-#include "job/form_support.h"
-#include "job/job_paths.h"
+#include "core/job_paths.h"
+#include "forms/form_support.h"
 #include "platform/console_colours.h"
 #include "tests/support/job_driver.h"
 

@@ -1,10 +1,10 @@
 // The lkVCDxRIP dialog: its script, the drive list read from the scan's file, and real
 // scans and rips: from a "drive" that an image file stands in for, and after a failed scan.
 
+#include "core/lkvcdxrip_builder.h"
+#include "core/scan_list.h"
 #include "rip/frm_lkvcdxrip.h"
-#include "rip/lkvcdxrip_builder.h"
 #include "rip/scan_forms.h"
-#include "rip/scan_list.h"
 #include "tests/support/job_driver.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // The main menu: each button's dialog, opened by a click, an access key or Enter, and back.
 
 #include "about/mod_about.h"
-#include "job/window_rules.h"
+#include "forms/window_rules.h"
 #include "shell/frm_mainmenu.h"
 #include "shell/start_file.h"
 #include "tests/support/fake_services.h"

@@ -5,7 +5,7 @@
 // be closed in the middle of each stage.
 
 #include "additional/frm_regen.h"
-#include "additional/regen_builder.h"
+#include "core/regen_builder.h"
 #include "tests/support/job_driver.h"
 
 #include <QApplication>

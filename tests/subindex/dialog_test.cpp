@@ -1,7 +1,7 @@
 // The subindices remover: its rule on cue sheets, and its dialog from the checks to the file.
 
 #include "additional/frm_subindex.h"
-#include "shell/mod_general.h"
+#include "core/mod_general.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/job_driver.h"
 

@@ -3,7 +3,7 @@
 // test has queued. An unexpected box (none queued) is answered with its default and
 // recorded all the same, so a test can tell it came.
 
-#include "job/services.h"
+#include "core/services.h"
 
 #include <QString>
 #include <QStringList>

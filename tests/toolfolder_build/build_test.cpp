@@ -3,8 +3,8 @@
 // letters: the log passes the dialog's success test, the size it reports is the image's,
 // and exactly the expected files are made.
 
-#include "shell/image_size_report.h"
-#include "shell/mod_general.h"
+#include "core/image_size_report.h"
+#include "core/mod_general.h"
 #include "tests/support/tool_run.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 // the console, a non-zero exit, a log that fails the dialog's success test, a job folder
 // holding just what it held, no temporary folder left, and no tool left running.
 
-#include "shell/mod_general.h"
+#include "core/mod_general.h"
 #include "tests/support/tool_run.h"
 
 #include <QDir>

@@ -5,7 +5,7 @@
 // is gone. The discs are those of the shared media; the reference rip of each is what the
 // real vcdxrip gives from its 2352-byte image with its cue sheet.
 
-#include "shell/mod_general.h"
+#include "core/mod_general.h"
 #include "tests/support/tool_run.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // The VCDDEBUG dialog: its script, checks at Go, and real jobs on the shared media.
 
+#include "core/vcddebug_builder.h"
 #include "inspect/frm_vcddebug.h"
-#include "inspect/vcddebug_builder.h"
 #include "tests/support/job_driver.h"
 
 #include <QRadioButton>

@@ -2,8 +2,8 @@
 // rips back into the clips.
 
 #include "author/frm_vcdimager.h"
-#include "author/vcdimager_builder.h"
-#include "shell/mod_general.h"
+#include "core/mod_general.h"
+#include "core/vcdimager_builder.h"
 #include "tests/support/job_driver.h"
 
 #include <QRegularExpression>

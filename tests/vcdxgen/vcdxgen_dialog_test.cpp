@@ -3,7 +3,7 @@
 
 #include "author/frm_vcdxgen.h"
 #include "author/mpeg_load_dialog.h"
-#include "author/vcdxgen_builder.h"
+#include "core/vcdxgen_builder.h"
 #include "tests/support/job_driver.h"
 
 #include <QApplication>

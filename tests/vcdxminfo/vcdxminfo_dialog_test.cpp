@@ -1,7 +1,7 @@
 // The VCDXMINFO dialog: its script with either separator, checks at Go, interlock and report.
 
+#include "core/vcdxminfo_builder.h"
 #include "inspect/frm_vcdxminfo.h"
-#include "inspect/vcdxminfo_builder.h"
 #include "tests/support/job_driver.h"
 
 using namespace torvane;

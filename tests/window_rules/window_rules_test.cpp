@@ -1,7 +1,7 @@
 // The rules every window keeps: keys go to the focused control or open list before any
 // form shortcut, and a disabled window is out of the window manager's reach.
 
-#include "job/window_rules.h"
+#include "forms/window_rules.h"
 #include "about/mod_about.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/job_driver.h"

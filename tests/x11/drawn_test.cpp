@@ -2,7 +2,7 @@
 // the screen itself (the server's frame buffer) and must show what the window drew.
 
 #include "author/frm_vcdxgen.h"
-#include "job/desktop_services.h"
+#include "forms/desktop_services.h"
 #include "shell/frm_mainmenu.h"
 #include "tests/support/fake_services.h"
 

@@ -1,0 +1,35 @@
+#include "core/mpeg_list.h"
+
+namespace torvane {
+
+namespace {
+const QString kLineEnd = QStringLiteral("\r\n");
+const QChar Quote = QLatin1Char('"');
+}  // namespace
+
+QString ExchangeText(const MpegList& list) {
+    return QString::number(list.count) + kLineEnd + list.text;
+}
+
+std::optional<MpegList> ReadExchangeText(const QString& exchange) {
+    const int end = exchange.indexOf(kLineEnd);
+    if (end < 0)
+        return std::nullopt;
+    return MpegList{exchange.left(end).toInt(), exchange.mid(end + kLineEnd.size())};
+}
+
+MpegList WithFileAdded(const MpegList& list, const QString& path) {
+    const QString entry = Quote + path + Quote;
+    return {list.count + 1, list.count == 0 ? entry : list.text + kLineEnd + entry};
+}
+
+MpegList WithoutLastEntry(const MpegList& list) {
+    if (list.count <= 1)
+        return {};
+    const int lastEnd = list.text.lastIndexOf(kLineEnd);
+    if (lastEnd < 0)
+        return list;
+    return {list.count - 1, list.text.left(lastEnd)};
+}
+
+}  // namespace torvane
