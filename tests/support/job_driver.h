@@ -4,7 +4,7 @@
 
 #include "job/console_window.h"
 #include "job/job_frame.h"
-#include "shell/frm_mainmenu.h"
+#include "shell/tool_registry.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/tool_run.h"
 
@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <type_traits>
 
 namespace torvane::test {
 
@@ -94,15 +95,25 @@ inline void RefusalRow(const char* name, const char* input, const char* output,
     QTest::newRow(name) << QString(input) << QString(output) << QString(message);
 }
 
-// A tool dialog opened from a menu over fake services. With `appDir`, the application's own
-// tool folder; otherwise one whose tools a test adds. A dialog still open as the test ends
-// is closed, a job still running answered Yes.
+// A tool dialog made from a context over fake services and shown, as the menu does. With
+// `appDir`, the application's own tool folder; otherwise one whose tools a test adds. A
+// dialog still open as the test ends is closed, a job still running answered Yes.
 template <class Dialog>
 struct DialogFixture {
     explicit DialogFixture(const char* tool, const QString& appDir = {})
-        : menu(fakes.services, appDir.isEmpty() ? app.path() : appDir),
-          dialog(*qobject_cast<Dialog*>(menu.openTool(QLatin1String(tool)))) {
+        : context{fakes.services, appDir.isEmpty() ? app.path() : appDir, [this] { ++returns; }},
+          dialog(make(tool)) {
         UseBuiltInterpreter();
+    }
+    // A form's own type is made directly; a plain QWidget through the table of tools.
+    Dialog& make([[maybe_unused]] const char* tool) {
+        Dialog* made;
+        if constexpr (std::is_constructible_v<Dialog, const ToolContext&>)
+            made = new Dialog(context);
+        else
+            made = qobject_cast<Dialog*>(FindTool(QLatin1String(tool))->open(context));
+        made->show();
+        return *made;
     }
     ~DialogFixture() {
         fakes.boxes.answers.push_back(vbYes);
@@ -168,7 +179,8 @@ struct DialogFixture {
     FakeServices fakes;
     FakeAppFolder app;
     QTemporaryDir work;
-    frm_mainmenu menu;
+    ToolContext context;
+    int returns = 0;  // how often the dialog went back to the menu
     Dialog& dialog;
     QPointer<Dialog> open{&dialog};  // closing deletes the dialog
 };

@@ -84,16 +84,20 @@ private slots:
     // The window manager's close of a greyed window: the tool dialog behind its About box
     // and the menu behind the dialog stay; the box, once closed, gives the dialog back.
     void disabledWindowsStay() {
-        DialogFixture<QWidget> f("vcdxgen");
-        qobject_cast<QPushButton*>(Child(f.dialog, "cmd_about"))->click();
-        QVERIFY(!f.dialog.isEnabled());
-        for (QWidget* window : {static_cast<QWidget*>(&f.menu), &f.dialog}) {
+        FakeServices fakes;
+        frm_mainmenu menu(fakes.services, QDir::tempPath());
+        QWidget& dialog = *menu.openTool(QStringLiteral("vcdxgen"));
+        qobject_cast<QPushButton*>(Child(dialog, "cmd_about"))->click();
+        QVERIFY(!dialog.isEnabled());
+        for (QWidget* window : {static_cast<QWidget*>(&menu), &dialog}) {
             QVERIFY(!window->close());
         }
-        QVERIFY(!f.menu.isEnabled());
+        QVERIFY(!menu.isEnabled());
         QWidget* box = ComponentDialog(QStringLiteral("about_component"));
         QVERIFY(box && box->close());
-        QVERIFY(f.dialog.isEnabled());
+        QVERIFY(dialog.isEnabled());
+        fakes.boxes.answers = {vbYes};
+        QVERIFY(dialog.close() && menu.isEnabled());
     }
 
 private:
