@@ -179,7 +179,7 @@ bool frm_regen::startStage(JobTimer& timer, int stage, bool firstStart, const Jo
 }
 
 bool frm_regen::endMarkerShown(JobTimer& timer) {
-    if (console->WordScan() != QLatin1String("***end***")) {
+    if (console->WordScan() != QLatin1String(kEndMarker)) {
         timer.setInterval(kPollMs);
         return false;
     }

@@ -5,17 +5,12 @@
 
 namespace torvane {
 
-namespace {
-const QChar Quote = QLatin1Char('"');
-}  // namespace
-
 JobPlan BuildCdxa2mpegJob(const Cdxa2mpegInputs& in) {
     const OutputSplit split = SplitOutputPath(in.output, in.sep);
 
     JobPlan plan;
-    plan.commandLine = Quote + in.toolFolder + QStringLiteral("cdxa2mpeg.exe") + Quote +
-                       QLatin1Char(' ') + Quote + in.input + Quote + QLatin1Char(' ') + Quote +
-                       in.output + Quote;
+    plan.commandLine = Quoted(in.toolFolder + QStringLiteral("cdxa2mpeg.exe")) + QLatin1Char(' ') +
+                       Quoted(in.input) + QLatin1Char(' ') + Quoted(in.output);
     PlaceJob(plan, split.output_dir,
              QStringLiteral("CDXA2MPEG Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input S/VCD File:  ") + in.input

@@ -7,7 +7,6 @@ namespace torvane {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
 const QChar CR = QLatin1Char('\r');
 
 // An empty label or album id passes its check and goes into the command line as a blank.
@@ -77,14 +76,14 @@ JobPlan BuildListToolJob(const DiscSettings& disc, const ListToolJobText& text) 
     const OutputSplit split = SplitOutputPath(disc.output, disc.sep);
     JobPlan plan;
     plan.logPath = split.output_dir + QStringLiteral("log.txt");
-    plan.commandLine =
-        text.tool + QLatin1Char(' ') + text.optionSwitches + QStringLiteral(" -v  ") +
-        TypeSwitch(disc.type) + QStringLiteral(" -l ") + BlankIfEmpty(disc.volumeLabel) +
-        QStringLiteral(" --info-album-id=") + BlankIfEmpty(disc.albumId) +
-        QStringLiteral(" --volume-count=") + QString::number(disc.volumeCount.toInt()) +
-        QStringLiteral(" --volume-number=") + QString::number(disc.volumeNumber.toInt()) +
-        QLatin1Char(' ') + text.outputSwitches + QStringLiteral(" @list.txt > ") + Quote +
-        plan.logPath + Quote;
+    plan.commandLine = text.tool + QLatin1Char(' ') + text.optionSwitches +
+                       QStringLiteral(" -v  ") + TypeSwitch(disc.type) + QStringLiteral(" -l ") +
+                       BlankIfEmpty(disc.volumeLabel) + QStringLiteral(" --info-album-id=") +
+                       BlankIfEmpty(disc.albumId) + QStringLiteral(" --volume-count=") +
+                       QString::number(disc.volumeCount.toInt()) +
+                       QStringLiteral(" --volume-number=") +
+                       QString::number(disc.volumeNumber.toInt()) + QLatin1Char(' ') +
+                       text.outputSwitches + QStringLiteral(" @list.txt > ") + Quoted(plan.logPath);
     PlaceJob(plan, disc.toolFolder, text.banner);
     plan.scriptLines << QStringLiteral("echo Ouput directory: ") + split.output_dir
                      << text.outputEcho + split.fileName

@@ -126,7 +126,7 @@ QStringList PleaseWaitLines() {
 
 QStringList ScriptClosing() {
     return {QStringLiteral("echo."), QStringLiteral("echo Finished!"), QStringLiteral("pause"),
-            QStringLiteral("cls"), QStringLiteral("echo ***end***")};
+            QStringLiteral("cls"), QStringLiteral("echo ") + QLatin1String(kEndMarker)};
 }
 
 }  // namespace torvane

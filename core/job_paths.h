@@ -29,6 +29,9 @@ QString ToolFolder(const QString& appPath, const QString& folderWord, QChar sep)
 // `text` between double quotes, as the command lines carry paths.
 QString Quoted(const QString& text);
 
+// What a job script prints last, after clearing the screen: row 0, column 0 then holds it.
+inline const char* const kEndMarker = "***end***";
+
 // `name` less a final `extension`, compared exactly: ".BIN" is no ".bin".
 QString WithoutExtension(const QString& name, const QString& extension);
 

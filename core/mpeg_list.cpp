@@ -1,10 +1,11 @@
 #include "core/mpeg_list.h"
 
+#include "core/job_paths.h"
+
 namespace torvane {
 
 namespace {
 const QString kLineEnd = QStringLiteral("\r\n");
-const QChar Quote = QLatin1Char('"');
 }  // namespace
 
 QString ExchangeText(const MpegList& list) {
@@ -19,7 +20,7 @@ std::optional<MpegList> ReadExchangeText(const QString& exchange) {
 }
 
 MpegList WithFileAdded(const MpegList& list, const QString& path) {
-    const QString entry = Quote + path + Quote;
+    const QString entry = Quoted(path);
     return {list.count + 1, list.count == 0 ? entry : list.text + kLineEnd + entry};
 }
 

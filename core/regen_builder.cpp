@@ -30,7 +30,7 @@ QStringList PhaseScript(int phase, const QString& commandLine) {
         QStringLiteral("CUE/BIN Regenerator - Phase %1 (quelmora productions)").arg(phase));
     lines << QStringLiteral("echo.") << PleaseWaitLines() << commandLine << QStringLiteral("echo.")
           << QStringLiteral("echo Finished!") << QStringLiteral("cls")
-          << QStringLiteral("echo ***end***");
+          << QStringLiteral("echo ") + QLatin1String(kEndMarker);
     return lines;
 }
 
@@ -75,7 +75,8 @@ JobPlan BuildRegenDetectJob(const RegenInputs& in, bool secondAttempt) {
         ScriptOpening(QStringLiteral("CUE/BIN Regenerator Tool - Stage 1 (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Please wait...") << QStringLiteral("echo.")
                      << commandLine << QStringLiteral("echo.") << QStringLiteral("echo Finished!")
-                     << QStringLiteral("cls") << QStringLiteral("echo ***end***");
+                     << QStringLiteral("cls")
+                     << QStringLiteral("echo ") + QLatin1String(kEndMarker);
     return plan;
 }
 

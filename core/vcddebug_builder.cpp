@@ -5,7 +5,6 @@
 namespace torvane {
 
 namespace {
-const QChar Quote = QLatin1Char('"');
 
 // "--sector-2336" if ticked, then " -v" or " -q".
 QString VcddebugSwitches(const VcddebugInputs& in) {
@@ -20,10 +19,9 @@ JobPlan BuildVcddebugJob(const VcddebugInputs& in) {
     const QString switches = VcddebugSwitches(in);
 
     JobPlan plan;
-    plan.commandLine = Quote + in.toolFolder + QStringLiteral("vcddebug.exe") + Quote +
-                       QLatin1Char(' ') + switches + QLatin1Char(' ') +
-                       QStringLiteral("--bin-file=") + Quote + in.input + Quote +
-                       QStringLiteral(" > ") + Quote + in.output + Quote;
+    plan.commandLine = Quoted(in.toolFolder + QStringLiteral("vcddebug.exe")) + QLatin1Char(' ') +
+                       switches + QLatin1Char(' ') + QStringLiteral("--bin-file=") +
+                       Quoted(in.input) + QStringLiteral(" > ") + Quoted(in.output);
     PlaceJob(plan, split.output_dir,
              QStringLiteral("VCDDEBUG Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input BIN File:   ") + in.input

@@ -7,7 +7,6 @@
 namespace torvane {
 
 namespace {
-const QChar Quote = QLatin1Char('"');
 QString VcdimagerOptionSwitches(const VcdimagerInputs& in) {
     return (in.sector2336 ? QStringLiteral("--sector-2336") : QString()) +
            SvcdOptionSwitches(in.disc);
@@ -21,9 +20,8 @@ QString VcdimagerBaseName(const QString& output) {
 
 JobPlan BuildVcdimagerJob(const VcdimagerInputs& in) {
     const QString base = VcdimagerBaseName(in.disc.output);
-    const QString files = QStringLiteral("--cue-file=") + Quote + base + QStringLiteral(".cue") +
-                          Quote + QStringLiteral(" --bin-file=") + Quote + base +
-                          QStringLiteral(".bin") + Quote;
+    const QString files = QStringLiteral("--cue-file=") + Quoted(base + QStringLiteral(".cue")) +
+                          QStringLiteral(" --bin-file=") + Quoted(base + QStringLiteral(".bin"));
     return BuildListToolJob(
         in.disc, {QStringLiteral("vcdimager.exe"),
                   QStringLiteral("VCDIMAGER Tool - Batch File (quelmora productions)"),

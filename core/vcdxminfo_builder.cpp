@@ -4,10 +4,6 @@
 
 namespace torvane {
 
-namespace {
-const QChar Quote = QLatin1Char('"');
-}  // namespace
-
 QString VcdxminfoSwitches(const VcdxminfoInputs& in) {
     QString switches;
     if (in.generic)
@@ -25,10 +21,9 @@ JobPlan BuildVcdxminfoJob(const VcdxminfoInputs& in) {
     const QString switches = VcdxminfoSwitches(in);
 
     JobPlan plan;
-    plan.commandLine = Quote + in.toolFolder + QStringLiteral("vcdxminfo.exe") + Quote +
-                       QLatin1Char(' ') + switches + QStringLiteral(" -v  -p ") +
-                       QStringLiteral("--output-file=") + Quote + in.output + Quote +
-                       QLatin1Char(' ') + Quote + in.input + Quote;
+    plan.commandLine = Quoted(in.toolFolder + QStringLiteral("vcdxminfo.exe")) + QLatin1Char(' ') +
+                       switches + QStringLiteral(" -v  -p ") + QStringLiteral("--output-file=") +
+                       Quoted(in.output) + QLatin1Char(' ') + Quoted(in.input);
     PlaceJob(plan, split.output_dir,
              QStringLiteral("VCDXMINFO Tool - Batch File (quelmora productions)"));
     plan.scriptLines << QStringLiteral("echo Input MPEG File:  ") + in.input

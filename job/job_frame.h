@@ -5,6 +5,7 @@
 // its console title and gives it two hooks: the report of the end-of-job step and the
 // re-enabling of its controls (with its interlocks).
 
+#include "core/job_paths.h"
 #include "core/job_plan.h"
 #include "core/services.h"
 #include "job/cconsole.h"
@@ -67,8 +68,5 @@ private:
     Hooks hooks_;
     QStringList extraFiles_;
 };
-
-// The end marker that the last line of every job script prints at row 0, column 0.
-inline const char* const kEndMarker = "***end***";
 
 }  // namespace torvane

@@ -223,7 +223,7 @@ private slots:
         // The sheet names the new BIN; the BIN rips to the disc's clips, read as a lone BIN
         // because the tools read no sheet of 2336-byte tracks.
         const bool s2336 = box.contains("2336");
-        QVERIFY(ReadBytes(cue).startsWith("FILE " + Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
+        QVERIFY(ReadBytes(cue).startsWith("FILE " + test::Quoted(bin) + " BINARY\r\n  TRACK 01 MODE2/" +
                                           (s2336 ? "2336" : "2352")));
         const QString rip = FreshFolder(work_->path(), "rip");
         QStringList args{"--output-file=" + rip + "/v.xml", "--bin-file=" + bin};

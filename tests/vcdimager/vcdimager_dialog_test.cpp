@@ -91,7 +91,7 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
         const QString folder = FreshFolder(f.work.path(), "img & 'co' été");
         f.dialog.file_count = 2;
         f.dialog.file_list =
-            Quoted(Media("clip-vcd.mpg")) + "\r\n" + Quoted(Media("clip-vcd2.mpg"));
+            test::Quoted(Media("clip-vcd.mpg")) + "\r\n" + test::Quoted(Media("clip-vcd2.mpg"));
         f.prepare(nullptr, "", QString(), folder + "/-film ü.bin");
         QVERIFY(f.go(vbYes));
 
@@ -117,7 +117,7 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
         DialogFixture<frm_vcdimager> f("vcdimager");
         f.app.linkAppTools({"vcdimager.exe"});
         f.dialog.file_count = 1;
-        f.dialog.file_list = Quoted(Media("random.bin"));
+        f.dialog.file_list = test::Quoted(Media("random.bin"));
         f.prepare(nullptr, "", QString(), f.work.filePath("d.bin"));
         QVERIFY(f.go(vbOK));
         QVERIFY(f.fakes.boxes.shown.at(0).text.startsWith("There appears to have been an error!"));
