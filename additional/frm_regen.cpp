@@ -113,8 +113,8 @@ void frm_regen::cmd_rip_Click() {
     input_path.clear();
     output_dir.clear();
     const RegenInputs in = inputs();
-    if (!GoMayProceed(services_.boxes, RegenValidation(in), {in.input, in.output},
-                      {RegenOutputDir(in)}))
+    if (!GoMayProceed(services_.boxes, RegenValidation(in), CarriedPaths({in.input, in.output}),
+                      WrittenFolders({RegenOutputDir(in)})))
         return;
     // A tool that is missing, or an input that cannot be read, would only read as a file
     // that is no disc; say what it is instead.

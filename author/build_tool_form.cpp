@@ -138,8 +138,9 @@ void BuildToolForm::cmd_rip_Click() {
     const VcdxbuildInputs in = inputs();
     // The job, its script and its log belong in the input folder, the image in its own.
     const VcdxbuildJob job = text_.buildJob(in);
-    if (!GoMayProceed(services_.boxes, VcdxbuildValidation(in), {in.input, in.output},
-                      {job.plan.jobDir, SplitOutputPath(in.output, in.sep).output_dir}))
+    if (!GoMayProceed(
+            services_.boxes, VcdxbuildValidation(in), CarriedPaths({in.input, in.output}),
+            WrittenFolders({job.plan.jobDir, SplitOutputPath(in.output, in.sep).output_dir})))
         return;
     if (in.cueBin)
         cue_path = job.cue_path;

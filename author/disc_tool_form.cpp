@@ -181,8 +181,8 @@ void DiscToolForm::cmd_rip_Click() {
     const JobPlan plan = text_.buildJob(disc, firstBox->isChecked());
     const QString outputDir = SplitOutputPath(disc.output, disc.sep).output_dir;
     // The list's names were each looked at as they were added (mpeg_load_dialog.cpp).
-    if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc), {disc.output},
-                      {tool_folder, outputDir}))
+    if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc), CarriedPaths({disc.output}),
+                      WrittenFolders({tool_folder, outputDir})))
         return;
     list_path = ListFilePath(disc);
     // The list file holds exactly the list text; a job without it would only fail.

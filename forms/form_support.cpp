@@ -76,12 +76,12 @@ void MakeDefaultButton(QWidget& form, QPushButton& button) {
 
 namespace torvane {
 
-bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const QStringList& paths,
-                  const QStringList& folders) {
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const CarriedPaths& paths,
+                  const WrittenFolders& folders) {
     QString message = validationMessage;
     if (message.isEmpty())
-        message = UnsafePathMessage(paths);
-    for (const QString& folder : folders) {
+        message = UnsafePathMessage(paths.list);
+    for (const QString& folder : folders.list) {
         if (message.isEmpty())
             message = UnusableFolderMessage(folder);
     }

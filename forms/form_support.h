@@ -50,12 +50,23 @@ namespace torvane {
 
 class MessageBoxes;
 
+// The paths a job script carries, and the folders a job writes into: named at every call,
+// so that the two lists cannot change places unseen.
+struct CarriedPaths {
+    explicit CarriedPaths(QStringList paths) : list(std::move(paths)) {}
+    QStringList list;
+};
+struct WrittenFolders {
+    explicit WrittenFolders(QStringList folders) : list(std::move(folders)) {}
+    QStringList list;
+};
+
 // The end of every Go handler's checks: the tool's own first failing check (empty when all
 // passed), then the refusal of a path that cannot be carried through a job script, then
-// that of a folder the job writes into (`folders`) that does not exist or cannot be written. Shows
-// the information box and returns false when Go must stop; nothing else is changed.
-bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const QStringList& paths,
-                  const QStringList& folders);
+// that of a folder the job writes into that does not exist or cannot be written. Shows the
+// information box and returns false when Go must stop; nothing else is changed.
+bool GoMayProceed(MessageBoxes& boxes, const QString& validationMessage, const CarriedPaths& paths,
+                  const WrittenFolders& folders);
 
 }  // namespace torvane
 

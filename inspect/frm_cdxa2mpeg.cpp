@@ -81,7 +81,7 @@ void frm_cdxa2mpeg::cmd_rip_Click() {
                              QChar(kPathSeparator)};
     const JobPlan plan = BuildCdxa2mpegJob(in);
     if (!GoMayProceed(services_.boxes, OutputThenInputValidation(in.input, in.output),
-                      {in.input, in.output}, {plan.jobDir}))
+                      CarriedPaths({in.input, in.output}), WrittenFolders({plan.jobDir})))
         return;
     output_.Start(in.output);
     setControlsEnabled(false);

@@ -93,7 +93,7 @@ void frm_vcddebug::cmd_rip_Click() {
                             opt_verbose->isChecked(), tool_folder,        QChar(kPathSeparator)};
     const JobPlan plan = BuildVcddebugJob(in);
     if (!GoMayProceed(services_.boxes, OutputThenInputValidation(in.input, in.output),
-                      {in.input, in.output}, {plan.jobDir}))
+                      CarriedPaths({in.input, in.output}), WrittenFolders({plan.jobDir})))
         return;
     setControlsEnabled(false);
     frame.Start(plan);

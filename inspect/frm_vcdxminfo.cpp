@@ -108,7 +108,7 @@ void frm_vcdxminfo::cmd_rip_Click() {
 
     const JobPlan plan = BuildVcdxminfoJob(in);
     if (!GoMayProceed(services_.boxes, OutputThenInputValidation(in.input, in.output),
-                      {in.input, in.output}, {plan.jobDir}))
+                      CarriedPaths({in.input, in.output}), WrittenFolders({plan.jobDir})))
         return;
     output_.Start(in.output);
     setControlsEnabled(false);

@@ -217,7 +217,8 @@ void frm_lkvcdxrip::cmd_rip_Click() {
     const JobPlan plan = BuildLkvcdxripJob(in);
     const QStringList paths =
         in.fromDrive ? QStringList{in.output} : QStringList{in.input, in.output};
-    if (!GoMayProceed(services_.boxes, LkvcdxripValidation(in), paths, {plan.jobDir}))
+    if (!GoMayProceed(services_.boxes, LkvcdxripValidation(in), CarriedPaths(paths),
+                      WrittenFolders({plan.jobDir})))
         return;
     output_dir = plan.jobDir;
     setControlsEnabled(false);

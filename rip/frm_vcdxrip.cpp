@@ -116,7 +116,8 @@ void frm_vcdxrip::cmd_rip_Click() {
     const VcdxripInputs in = inputs();
     // The job, its log and what the tool extracts all belong in the output folder.
     const JobPlan plan = BuildVcdxripJob(in);
-    if (!GoMayProceed(services_.boxes, VcdxripValidation(in), {in.input, in.output}, {plan.jobDir}))
+    if (!GoMayProceed(services_.boxes, VcdxripValidation(in), CarriedPaths({in.input, in.output}),
+                      WrittenFolders({plan.jobDir})))
         return;
     setControlsEnabled(false);
     frame.Start(plan);

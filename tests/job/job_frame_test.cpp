@@ -177,7 +177,8 @@ void JobFrameTest::refusals() {
     folder.replace("<d>", dir.path());
     message.replace("<d>", dir.path());
     FakeMessageBoxes boxes;
-    QCOMPARE(GoMayProceed(boxes, {}, {QStringLiteral("/fine.mpg"), path}, {dir.path(), folder}),
+    QCOMPARE(GoMayProceed(boxes, {}, CarriedPaths({QStringLiteral("/fine.mpg"), path}),
+                          WrittenFolders({dir.path(), folder})),
              message.isEmpty());
     QVERIFY(boxes.shown.size() < 2);
     QCOMPARE(boxes.shown.empty() ? QString() : boxes.shown[0].text, message);
