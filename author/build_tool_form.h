@@ -20,17 +20,18 @@ class QRadioButton;
 namespace torvane {
 
 // The texts and choices in which the two forms differ.
+// Set field by field, by name (see a form's Text()).
 struct BuildToolText {
-    const char* formName;
-    const char* caption;
-    const char* consoleTitle;
-    const char* folderWord;  // of the tool folder
-    const char* aboutCaption;
-    const char* aboutKey;
-    const char* frameTitle;
-    const char* frameText;
-    bool withNrg;  // the fork's third image type
-    VcdxbuildJob (*buildJob)(const VcdxbuildInputs&);
+    const char* formName = nullptr;
+    const char* caption = nullptr;
+    const char* consoleTitle = nullptr;
+    const char* folderWord = nullptr;  // of the tool folder
+    const char* aboutCaption = nullptr;
+    const char* aboutKey = nullptr;
+    const char* frameTitle = nullptr;
+    const char* frameText = nullptr;
+    bool withNrg = false;  // the fork's third image type
+    VcdxbuildJob (*buildJob)(const VcdxbuildInputs&) = nullptr;
 };
 
 class BuildToolForm : public QWidget {

@@ -21,29 +21,31 @@ class QRadioButton;
 namespace torvane {
 
 // The texts and choices in which the two forms differ.
+// Set field by field, by name (see a form's Text()).
 struct DiscToolText {
-    const char* formName;  // "frm_vcdxgen"
-    const char* caption;
-    const char* consoleTitle;
-    const char* loadFormName;  // the list dialog's name
-    const char* outputLabel;
-    const char* outputLabelTip;
-    const char* outputTip;
-    const char* outputBrowseTip;
-    const QString* outputFilter;
-    const char* firstBoxName;
-    const char* firstBoxCaption;
-    const char* firstBoxTip;
-    bool (*firstBoxCounts)(DiscType);  // whether the first check box is enabled with a type
+    const char* formName = nullptr;  // "frm_vcdxgen"
+    const char* caption = nullptr;
+    const char* consoleTitle = nullptr;
+    const char* loadFormName = nullptr;  // the list dialog's name
+    const char* outputLabel = nullptr;
+    const char* outputLabelTip = nullptr;
+    const char* outputTip = nullptr;
+    const char* outputBrowseTip = nullptr;
+    const QString* outputFilter = nullptr;
+    const char* firstBoxName = nullptr;
+    const char* firstBoxCaption = nullptr;
+    const char* firstBoxTip = nullptr;
+    // Whether the first check box is enabled with a type.
+    bool (*firstBoxCounts)(DiscType) = nullptr;
     // The job of the settings and the first box's tick, and the outcome read from its log.
-    JobPlan (*buildJob)(const DiscSettings&, bool firstBoxTicked);
-    ListToolReport (*buildReport)(const std::optional<QByteArray>& log);
-    bool opensLog;  // Yes to the question opens the log; otherwise the output
-    const char* aboutCaption;
-    const char* aboutKey;
-    const char* frameTitle;
-    const char* frameText;
-    QStyle::StandardPixmap picture;
+    JobPlan (*buildJob)(const DiscSettings&, bool firstBoxTicked) = nullptr;
+    ListToolReport (*buildReport)(const std::optional<QByteArray>& log) = nullptr;
+    bool opensLog = false;  // Yes to the question opens the log; otherwise the output
+    const char* aboutCaption = nullptr;
+    const char* aboutKey = nullptr;
+    const char* frameTitle = nullptr;
+    const char* frameText = nullptr;
+    QStyle::StandardPixmap picture = QStyle::SP_CustomBase;
 };
 
 class DiscToolForm : public QWidget {

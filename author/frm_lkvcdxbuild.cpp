@@ -4,19 +4,26 @@ namespace torvane {
 
 namespace {
 
-const BuildToolText kText{
-    "frm_lkvcdxbuild",
-    "lkVCDxBUILD - Torvane",
-    "Torvane -- lkVCDxBUILD Tool",
-    "lkVCDImager",
-    "About lkVCDxBUILD",
-    "lkvcdxbuild",
-    "What does lkVCDxBUILD do?",
-    "lkVCDxBUILD takes the XML descripter file of a S/VCD project and creates a CD image on "
-    "your hard disc.  It has the same basic functionality as VCDXBUILD.  However, this \"fork\" "
-    "of VCDXBUILD allows VCDs with ISO Level 2 filesystems to be created.",
-    true,
-    BuildLkvcdxbuildJob};
+BuildToolText Text() {
+    BuildToolText text;
+    text.formName = "frm_lkvcdxbuild";
+    text.caption = "lkVCDxBUILD - Torvane";
+    text.consoleTitle = "Torvane -- lkVCDxBUILD Tool";
+    text.folderWord = "lkVCDImager";
+    text.aboutCaption = "About lkVCDxBUILD";
+    text.aboutKey = "lkvcdxbuild";
+    text.frameTitle = "What does lkVCDxBUILD do?";
+    text.frameText =
+        "lkVCDxBUILD takes the XML descripter file of a S/VCD project and creates a CD image on "
+        "your hard disc.  It has the same basic functionality as VCDXBUILD.  However, this "
+        "\"fork\" "
+        "of VCDXBUILD allows VCDs with ISO Level 2 filesystems to be created.";
+    text.withNrg = true;
+    text.buildJob = BuildLkvcdxbuildJob;
+    return text;
+}
+
+const BuildToolText kText = Text();
 
 }  // namespace
 

@@ -14,33 +14,40 @@ bool WithEveryType(DiscType) {
     return true;
 }
 
-const DiscToolText kText{
-    "frm_vcdimager",
-    "VCDIMAGER - Torvane",
-    "Torvane -- VCDImager Tool",
-    "frm_vcdimager_load",
-    "Save CUE/BIN CD Image:",
-    "Specify the output BIN filename:",
-    "Specify the output filename",
-    "Browse for the output filename",
-    &kBinFilter,
-    "chk_s2336",
-    "Use 2336 byte sectors",
-    "Use 2336 byte size sectors - generally not needed (turn on for 99 min CDs)",
-    WithEveryType,
-    [](const DiscSettings& disc, bool ticked) {
+DiscToolText Text() {
+    DiscToolText text;
+    text.formName = "frm_vcdimager";
+    text.caption = "VCDIMAGER - Torvane";
+    text.consoleTitle = "Torvane -- VCDImager Tool";
+    text.loadFormName = "frm_vcdimager_load";
+    text.outputLabel = "Save CUE/BIN CD Image:";
+    text.outputLabelTip = "Specify the output BIN filename:";
+    text.outputTip = "Specify the output filename";
+    text.outputBrowseTip = "Browse for the output filename";
+    text.outputFilter = &kBinFilter;
+    text.firstBoxName = "chk_s2336";
+    text.firstBoxCaption = "Use 2336 byte sectors";
+    text.firstBoxTip = "Use 2336 byte size sectors - generally not needed (turn on for 99 min CDs)";
+    text.firstBoxCounts = WithEveryType;
+    text.buildJob = [](const DiscSettings& disc, bool ticked) {
         return BuildVcdimagerJob({disc, ticked});
-    },
-    BuildVcdimagerReport,
-    true,
-    "About VCDIMAGER",
-    "vcdimager",
-    "What does VCDIMAGER do?",
-    "VCDIMAGER is the original tool that has since developed into the VCDImager suite of "
-    "tools.  It is somewhat outdated since its functions have been modularised and extended in "
-    "the other tools.  However, VCDIMAGER itself is still useful for making a simple multitrack "
-    "S/VCD.",
-    QStyle::SP_DriveCDIcon};
+    };
+    text.buildReport = BuildVcdimagerReport;
+    text.opensLog = true;
+    text.aboutCaption = "About VCDIMAGER";
+    text.aboutKey = "vcdimager";
+    text.frameTitle = "What does VCDIMAGER do?";
+    text.frameText =
+        "VCDIMAGER is the original tool that has since developed into the VCDImager suite of "
+        "tools.  It is somewhat outdated since its functions have been modularised and extended in "
+        "the other tools.  However, VCDIMAGER itself is still useful for making a simple "
+        "multitrack "
+        "S/VCD.";
+    text.picture = QStyle::SP_DriveCDIcon;
+    return text;
+}
+
+const DiscToolText kText = Text();
 
 }  // namespace
 

@@ -4,19 +4,25 @@ namespace torvane {
 
 namespace {
 
-const BuildToolText kText{
-    "frm_vcdxbuild",
-    "VCDXBUILD - Torvane",
-    "Torvane -- VCDXBUILD Tool",
-    "VCDImager",
-    "About VCDXBUILD",
-    "vcdxbuild",
-    "What does VCDXBUILD do?",
-    "VCDXBUILD takes the XML descripter file of a S/VCD project and creates a CD image on your "
-    "hard disc.  This CD image (either in CUE/BIN format or the CDRDAO TOC format) can then be "
-    "recorded onto a physical disc (e.g., CD-R)",
-    false,
-    BuildVcdxbuildJob};
+BuildToolText Text() {
+    BuildToolText text;
+    text.formName = "frm_vcdxbuild";
+    text.caption = "VCDXBUILD - Torvane";
+    text.consoleTitle = "Torvane -- VCDXBUILD Tool";
+    text.folderWord = "VCDImager";
+    text.aboutCaption = "About VCDXBUILD";
+    text.aboutKey = "vcdxbuild";
+    text.frameTitle = "What does VCDXBUILD do?";
+    text.frameText =
+        "VCDXBUILD takes the XML descripter file of a S/VCD project and creates a CD image on your "
+        "hard disc.  This CD image (either in CUE/BIN format or the CDRDAO TOC format) can then be "
+        "recorded onto a physical disc (e.g., CD-R)";
+    text.withNrg = false;
+    text.buildJob = BuildVcdxbuildJob;
+    return text;
+}
+
+const BuildToolText kText = Text();
 
 }  // namespace
 
