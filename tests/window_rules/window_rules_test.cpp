@@ -9,8 +9,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
@@ -87,9 +85,8 @@ private slots:
         DialogFixture<QWidget> f("vcdxgen");
         qobject_cast<QPushButton*>(Child(f.dialog, "cmd_about"))->click();
         QVERIFY(!f.dialog.isEnabled());
-        for (QWidget* window : {static_cast<QWidget*>(&f.menu), &f.dialog}) {
+        for (QWidget* window : {static_cast<QWidget*>(&f.menu), &f.dialog})
             QVERIFY(!window->close());
-        }
         QVERIFY(!f.menu.isEnabled());
         QWidget* box = ComponentDialog(QStringLiteral("about_component"));
         QVERIFY(box && box->close());
