@@ -100,15 +100,13 @@ private slots:
     void theWindowPaintsInTheConsoleColours() {
         QFETCH(int, colour);
         QFETCH(bool, intense);
-        QFETCH(QColor, text);
-        QFETCH(QColor, paper);
         CConsole console;
         console.setForeColor(colour);
         console.setForeIntense(intense);
         torvane::ConsoleWindow window(console);
-        QCOMPARE(PixelOfFirstCell(&window), paper);
+        QTEST(PixelOfFirstCell(&window), "paper");
         console.screen().feed("\x1b[7m \x1b[m");  // a blank in reverse video
-        QCOMPARE(PixelOfFirstCell(&window), text);
+        QTEST(PixelOfFirstCell(&window), "text");
     }
 
     void keysTypedInTheWindowReachTheProgramScrollingBackDoesNot_data() {

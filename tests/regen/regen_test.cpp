@@ -8,9 +8,7 @@
 #include "core/regen_builder.h"
 #include "tests/support/job_driver.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QPushButton>
 
 using namespace torvane;
 using namespace torvane::test;
@@ -86,7 +84,6 @@ private slots:
         QFETCH(QChar, sep);
         QFETCH(int, stage);
         QFETCH(bool, sector2336);
-        QFETCH(QString, jobDir);
         QFETCH(QString, commandLine);
         const RegenInputs in = sep == '/'
                                    ? RegenInputs{"/home/u/dl/-lost.bin", "/home/u/my img/new.bin",
@@ -97,7 +94,7 @@ private slots:
                              : stage == Build ? BuildRegenBuildJob(in, sector2336)
                                               : BuildRegenDetectJob(in, stage == DetectSecond);
         QCOMPARE(plan.commandLine, commandLine);
-        QCOMPARE(plan.jobDir, jobDir);
+        QTEST(plan.jobDir, "jobDir");
         QCOMPARE(plan.logPath, RegenOutputDir(in) + "log.txt");
         QCOMPARE(plan.scriptLines, Script(Stage(stage)).replaceInStrings("%c", commandLine));
     }
@@ -147,10 +144,8 @@ private slots:
 
     void stageOneLogIsRead() {
         QFETCH(QByteArray, log);
-        QFETCH(bool, warned);
-        QFETCH(std::optional<QByteArray>, discType);
-        QCOMPARE(RegenDetectWarned(log), warned);
-        QCOMPARE(RegenDiscType(log), discType);
+        QTEST(RegenDetectWarned(log), "warned");
+        QTEST(RegenDiscType(log), "discType");
     }
     void init() {
         UseBuiltInterpreter();

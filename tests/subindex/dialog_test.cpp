@@ -51,9 +51,8 @@ private slots:
 
     void rule() {
         QFETCH(QByteArray, sheet);
-        QFETCH(QByteArray, result);
         const QByteArray once = RemoveSubindices(sheet);
-        QCOMPARE(once, result);
+        QTEST(once, "result");
         QCOMPARE(RemoveSubindices(once), once);  // a cleaned sheet stays as it is
     }
 

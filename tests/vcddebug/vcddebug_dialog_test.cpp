@@ -39,20 +39,11 @@ echo Option switches:  --sector-2336 -q
 
     void commandAndScript() {
         QFETCH(VcddebugInputs, in);
-        QFETCH(QString, jobDir);
         QFETCH(QString, script);
         const JobPlan plan = BuildVcddebugJob(in);
         QCOMPARE(plan.scriptLines, Script(kBanner, script, false));
-        QCOMPARE(plan.jobDir, jobDir);
+        QTEST(plan.jobDir, "jobDir");
     }
-
-    void goRefusesInOrder_data() {
-        AddRefusalColumns();
-        RefusalRow("nothing set: the output first", "", "", "You have not set an output file!");
-        RefusalRow("no input", "", "r.txt", "You have not loaded an input XML file!");
-    }
-
-    void goRefusesInOrder() { Fixture("vcddebug").expectRefusal(); }
 
     void job_data() {
         QTest::addColumn<QString>("clicks");

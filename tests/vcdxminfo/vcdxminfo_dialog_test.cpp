@@ -40,19 +40,16 @@ echo Option switches:   -a --relaxed-aps -v -p
 
     void commandAndScript() {
         QFETCH(VcdxminfoInputs, in);
-        QFETCH(QString, jobDir);
         QFETCH(QString, script);
         const JobPlan plan = BuildVcdxminfoJob(in);
         QCOMPARE(plan.scriptLines, Script(kBanner, script, false));
-        QCOMPARE(plan.jobDir, jobDir);
+        QTEST(plan.jobDir, "jobDir");
     }
 
     void goRefusesInOrder_data() {
         AddRefusalColumns();
         RefusalRow("nothing set: the output first", "", "", "You have not set an output file!");
         RefusalRow("no input", "", "r.xml", "You have not loaded an input XML file!");
-        RefusalRow("a quote in the output", "/m/a.mpg", "say \"hi\".xml",
-                   "This file name cannot be passed to the tool:");
         RefusalRow("an output folder that does not exist", "/m/a.mpg", "gone/r.xml",
                    "The folder does not exist:");
     }

@@ -54,8 +54,6 @@ echo Option switches:  --sector-2336 --norip -v
                    "(Nero Burning Rom)!");
         RefusalRow("a line feed that would run a command", "/i/movie\ntouch pwned\n.bin", "d.xml",
                    "This file name cannot be passed to the tool:\r\r/i/movie?touch pwned?.bin\r\r");
-        RefusalRow("a trailing backslash", "/i/m.bin", "d\\",
-                   "This file name cannot be passed to the tool:");
         RefusalRow("an output folder that does not exist", "/i/m.bin", "gone/d.xml",
                    "The folder does not exist:");
     }

@@ -9,8 +9,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
@@ -89,9 +87,8 @@ private slots:
         QWidget& dialog = *menu.openTool(QStringLiteral("vcdxgen"));
         qobject_cast<QPushButton*>(Child(dialog, "cmd_about"))->click();
         QVERIFY(!dialog.isEnabled());
-        for (QWidget* window : {static_cast<QWidget*>(&menu), &dialog}) {
+        for (QWidget* window : {static_cast<QWidget*>(&menu), &dialog})
             QVERIFY(!window->close());
-        }
         QVERIFY(!menu.isEnabled());
         QWidget* box = ComponentDialog(QStringLiteral("about_component"));
         QVERIFY(box && box->close());
