@@ -7,14 +7,12 @@
 #include "tests/support/fake_services.h"
 
 #include <QApplication>
-#include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
-#include <cstdio>
 #include <functional>
 
 using namespace torvane;
@@ -22,27 +20,6 @@ using namespace torvane;
 namespace {
 
 constexpr int kWindowTimeoutMs = 10000;
-
-// An Xvfb of the test's own on a free display, ended with the test.
-class XServer {
-public:
-    bool start() {  // Xvfb names its display on its standard output
-        server_.start(QStringLiteral("Xvfb"),
-                      {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
-        while (!server_.canReadLine() && server_.waitForReadyRead(kWindowTimeoutMs)) {
-        }
-        const QByteArray display = server_.readLine().trimmed();
-        qputenv("DISPLAY", ":" + display);
-        return !display.isEmpty();
-    }
-    ~XServer() {
-        server_.terminate();
-        server_.waitForFinished();
-    }
-
-private:
-    QProcess server_;
-};
 
 // The share of pixels that the screen shows as the window itself drew them.
 double ShownAsDrawn(QWidget& window) {
@@ -140,15 +117,5 @@ private:
     QPointer<frm_vcdxgen> dialog;
 };
 
-int main(int argc, char* argv[]) {
-    XServer server;
-    if (!server.start()) {
-        std::fprintf(stderr, "Xvfb could not be started\n");
-        return 1;
-    }
-    QApplication application(argc, argv);
-    X11DrawnTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(X11DrawnTest)
 #include "drawn_test.moc"
