@@ -3,20 +3,9 @@
 #include "about/frm_about_component.h"
 #include "core/component_texts.h"
 
-#include <QApplication>
 #include <QPlainTextEdit>
 
 namespace torvane {
-
-QWidget* ComponentDialog(const QString& key) {
-    const QString name = QStringLiteral("frm_") + key;
-    // A dialog that has just closed may linger until it is deleted; it is not shown.
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == name && widget->isVisible())
-            return widget;
-    }
-    return nullptr;
-}
 
 void ShowComponentAbout(QWidget& dialog, const QString& key) {
     auto* box = new frm_about_component;

@@ -13,7 +13,4 @@ namespace torvane {
 // owner and not modal.
 void ShowComponentAbout(QWidget& dialog, const QString& key);
 
-// The open tool dialog of `key` (its object name is "frm_" and the key), or null.
-QWidget* ComponentDialog(const QString& key);
-
 }  // namespace torvane

@@ -11,8 +11,7 @@ void UnloadToolDialog(QCloseEvent& event, JobFrame& frame, const ToolContext& co
         event.ignore();
         return;
     }
-    if (context.returnToMenu)
-        context.returnToMenu();
+    context.returnToMenu();
     event.accept();
 }
 

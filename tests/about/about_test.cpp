@@ -80,7 +80,7 @@ private slots:
         frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
         QPointer<QWidget> dialog = menu.openTool(key);
         dialog->findChild<QPushButton*>("cmd_about")->click();
-        QPointer<QWidget> box = ComponentDialog("about_component");
+        QPointer<QWidget> box = test::ComponentDialog("about_component");
         QVERIFY(box && box->isVisible() && !box->parentWidget() && !box->isModal());
         auto* text = box->findChild<QPlainTextEdit*>("Text1");
         QTEST(box->windowTitle() + '|' + text->toPlainText().section('\n', 0, 0), "shown");

@@ -57,10 +57,10 @@ private slots:
             QTest::keyClick(&menu, Qt::Key(key), Qt::AltModifier);  // the underlined letter
         else
             button->click();
-        QTRY_VERIFY(ComponentDialog(tool));  // an access key animates the click
+        QTRY_VERIFY(test::ComponentDialog(tool));  // an access key animates the click
         QTEST(menu.windowTitle(), "title");
         QVERIFY(!menu.isEnabled() && menu.isMinimized());
-        QVERIFY(ComponentDialog(tool)->close());
+        QVERIFY(test::ComponentDialog(tool)->close());
         QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
         QVERIFY(menu.isEnabled() && !menu.isMinimized());
         QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out
@@ -95,7 +95,7 @@ private slots:
         QCOMPARE(dialog != nullptr, !tool.isEmpty());
         if (!dialog)
             return;
-        QCOMPARE(dialog, ComponentDialog(tool));  // and no other
+        QCOMPARE(dialog, test::ComponentDialog(tool));  // and no other
         auto* input = dialog->findChild<QLineEdit*>(QStringLiteral("txt_input"));
         QCOMPARE(input->text(), file);
         fakes.files.names.push_back(QStringLiteral("/m/other"));

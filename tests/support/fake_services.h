@@ -5,6 +5,7 @@
 
 #include "core/services.h"
 
+#include <QApplication>
 #include <QString>
 #include <QStringList>
 #include <deque>
@@ -64,6 +65,15 @@ public:
     QStringList urls;
     bool viewerFound = true;  // false: the desktop has no program for the file or link
 };
+
+// The shown window named "frm_" and `key` (a tool dialog, or "about_component"), or null:
+// one that has just closed may linger until it is deleted.
+inline QWidget* ComponentDialog(const QString& key) {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->objectName() == QStringLiteral("frm_") + key && widget->isVisible())
+            return widget;
+    return nullptr;
+}
 
 struct FakeServices {
     FakeMessageBoxes boxes;

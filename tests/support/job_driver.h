@@ -101,7 +101,7 @@ inline void RefusalRow(const char* name, const char* input, const char* output,
 template <class Dialog>
 struct DialogFixture {
     explicit DialogFixture(const char* tool, const QString& appDir = {})
-        : context{fakes.services, appDir.isEmpty() ? app.path() : appDir, [this] { ++returns; }},
+        : context{fakes.services, appDir.isEmpty() ? app.path() : appDir, [] {}},
           dialog(make(tool)) {
         UseBuiltInterpreter();
     }
@@ -180,7 +180,6 @@ struct DialogFixture {
     FakeAppFolder app;
     QTemporaryDir work;
     ToolContext context;
-    int returns = 0;  // how often the dialog went back to the menu
     Dialog& dialog;
     QPointer<Dialog> open{&dialog};  // closing deletes the dialog
 };

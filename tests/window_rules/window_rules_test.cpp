@@ -90,7 +90,7 @@ private slots:
         for (QWidget* window : {static_cast<QWidget*>(&menu), &dialog})
             QVERIFY(!window->close());
         QVERIFY(!menu.isEnabled());
-        QWidget* box = ComponentDialog(QStringLiteral("about_component"));
+        QWidget* box = test::ComponentDialog(QStringLiteral("about_component"));
         QVERIFY(box && box->close());
         QVERIFY(dialog.isEnabled());
         fakes.boxes.answers = {vbYes};
