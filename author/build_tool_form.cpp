@@ -1,6 +1,5 @@
 #include "author/build_tool_form.h"
 
-#include "about/mod_about.h"
 #include "core/cue_rewrite.h"
 #include "core/job_paths.h"
 #include "core/mod_general.h"
@@ -9,8 +8,6 @@
 #include "forms/tool_form.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,26 +21,19 @@ const QString kNrgFilter = QStringLiteral("All Files (*.*)|*.*|NRG Files (*.nrg)
 }  // namespace
 
 BuildToolForm::BuildToolForm(const ToolContext& context, const BuildToolText& text)
-    : QWidget(nullptr, Qt::Window),
-      frame(*this, context.services, QString::fromUtf8(text.consoleTitle),
-            {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      context_(context),
-      services_(context.services),
+    : ToolDialog(context, {text.formName, text.caption, text.consoleTitle, text.folderWord}),
       text_(text) {
-    setObjectName(QLatin1String(text.formName));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QString::fromUtf8(text.caption));
     buildControls();
     connectControls();
-    Form_Load();
 }
 
 void BuildToolForm::buildControls() {
     ToolForm form(*this);
-    lbl_input = form.label("lbl_input", "Load XML file:", "Specify the input XML file.");
-    txt_input = form.pathBox("txt_input", "Specify the input file name.");
-    cmd_input = form.button("cmd_input", "Browse...", "Browse for the input XML file.");
-    form.addPathRow(lbl_input, txt_input, cmd_input);
+    std::tie(lbl_input, txt_input, cmd_input) =
+        addPathRow(form, "input",
+                   {"Load XML file:", "Specify the input XML file.", "Specify the input file name.",
+                    "Browse for the input XML file."},
+                   BrowseKind::Open, kXmlFilter);
     lbl_output =
         form.label("lbl_output", "Save CD Image:", "Specify the output CD image filename.");
     txt_output = form.pathBox("txt_output", "Specify the output CD image filename.");
@@ -68,13 +58,8 @@ void BuildToolForm::buildControls() {
                                  "NOT RECOMMENDED unless you have problems with subindicies");
     form.addOptionRow({chk_s2336, chk_subindex});
 
-    Frame1 = form.descriptionFrame(text_.frameTitle, text_.frameText, QStyle::SP_DriveCDIcon);
-    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
-
-    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
-    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
-    cmd_about = form.button("cmd_about", text_.aboutCaption, text_.aboutCaption);
-    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, QStyle::SP_FileDialogInfoView);
+    addDescription(form, text_.frameTitle, text_.frameText, QStyle::SP_DriveCDIcon);
+    addCommands(form, text_.aboutCaption, text_.aboutCaption, QStyle::SP_FileDialogInfoView);
     if (opt_nrg)
         form.finish({cmd_input, cmd_output, opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex,
                      cmd_rip, cmd_cancel, cmd_about});
@@ -84,26 +69,16 @@ void BuildToolForm::buildControls() {
 }
 
 void BuildToolForm::connectControls() {
-    connect(cmd_input, &QPushButton::clicked, this,
-            [this] { Browse(services_.files, BrowseKind::Open, kXmlFilter, *txt_input); });
+    // Coming back from a job, the selected image type is selected anew and its interlock
+    // applied.
+    setJobControls({opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex, txt_output, cmd_output,
+                    txt_input, cmd_input, cmd_about, cmd_rip, cmd_cancel});
     connect(cmd_output, &QPushButton::clicked, this, &BuildToolForm::cmd_output_Click);
     // Whatever the order of clicks, focus changes and arrow keys, once they have passed the
     // check boxes follow the selected image type; no tick and no name changes.
     for (QRadioButton* type : {opt_cuebin, opt_toc, opt_nrg})
         if (type)
-            connect(type, &QRadioButton::toggled, this, &BuildToolForm::applyInterlock);
-    connect(cmd_rip, &QPushButton::clicked, this, &BuildToolForm::cmd_rip_Click);
-    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
-    const QString aboutKey = QString::fromUtf8(text_.aboutKey);
-    connect(cmd_about, &QPushButton::clicked, this,
-            [this, aboutKey] { ShowComponentAbout(*this, aboutKey); });
-    MakeCancelButton(*this, *cmd_cancel);
-}
-
-void BuildToolForm::Form_Load() {
-    tool_folder =
-        ToolFolder(context_.appPath, QString::fromUtf8(text_.folderWord), QChar(kPathSeparator));
-    crlf = QStringLiteral("\r\n");
+            connect(type, &QRadioButton::toggled, this, &BuildToolForm::applyInterlocks);
 }
 
 void BuildToolForm::cmd_output_Click() {
@@ -116,7 +91,7 @@ void BuildToolForm::cmd_output_Click() {
 }
 
 // Subindices can go only from a cue sheet; a Nero image has no 2336-byte mode.
-void BuildToolForm::applyInterlock() {
+void BuildToolForm::applyInterlocks() {
     chk_subindex->setEnabled(opt_cuebin->isChecked());
     chk_s2336->setEnabled(!opt_nrg || !opt_nrg->isChecked());
 }
@@ -138,25 +113,13 @@ void BuildToolForm::cmd_rip_Click() {
     const VcdxbuildInputs in = inputs();
     // The job, its script and its log belong in the input folder, the image in its own.
     const VcdxbuildJob job = text_.buildJob(in);
-    if (!GoMayProceed(
-            services_.boxes, VcdxbuildValidation(in), CarriedPaths({in.input, in.output}),
+    if (!goMayProceed(
+            VcdxbuildValidation(in), CarriedPaths({in.input, in.output}),
             WrittenFolders({job.plan.jobDir, SplitOutputPath(in.output, in.sep).output_dir})))
         return;
     if (in.cueBin)
         cue_path = job.cue_path;
-    setControlsEnabled(false);
-    frame.Start(job.plan);
-}
-
-void BuildToolForm::setControlsEnabled(bool enabled) {
-    // Coming back, the selected image type is selected anew and its interlock applied.
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             opt_cuebin, opt_toc, opt_nrg, chk_s2336, chk_subindex, txt_output, cmd_output,
-             txt_input, cmd_input, cmd_about, cmd_rip, cmd_cancel})
-        if (control)
-            control->setEnabled(enabled);
-    if (enabled)
-        applyInterlock();
+    startJob(job.plan);
 }
 
 void BuildToolForm::report() {
@@ -173,10 +136,6 @@ void BuildToolForm::report() {
     const QString reason = RewriteCueWithoutSubindices(cue_path);
     if (!reason.isEmpty())
         InformationBox(services_.boxes, kInformation, FileNotWrittenMessage(cue_path, reason));
-}
-
-void BuildToolForm::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -4,14 +4,12 @@
 // from the job log and, on request, a cue sheet without subindices.
 
 #include "core/vcdxbuild_builder.h"
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
+#include "forms/tool_dialog.h"
 
 #include <QString>
 #include <QWidget>
 
 class QCheckBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -27,19 +25,18 @@ struct BuildToolText {
     const char* consoleTitle = nullptr;
     const char* folderWord = nullptr;  // of the tool folder
     const char* aboutCaption = nullptr;
-    const char* aboutKey = nullptr;
     const char* frameTitle = nullptr;
     const char* frameText = nullptr;
     bool withNrg = false;  // the fork's third image type
     VcdxbuildJob (*buildJob)(const VcdxbuildInputs&) = nullptr;
 };
 
-class BuildToolForm : public QWidget {
+class BuildToolForm : public ToolDialog {
     Q_OBJECT
 public:
     BuildToolForm(const ToolContext& context, const BuildToolText& text);
 
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
 
     QLabel* lbl_input;
     QLineEdit* txt_input;
@@ -52,32 +49,17 @@ public:
     QRadioButton* opt_nrg = nullptr;  // lkVCDxBUILD only
     QCheckBox* chk_s2336;
     QCheckBox* chk_subindex;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
 
-    QString crlf;
-    QString tool_folder;
     QString cue_path;  // the cue sheet of the job; set only with CUE/BIN
-    JobFrame frame;    // console, script_path, log_path, job_running, Timer1
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
     void connectControls();
-    void Form_Load();
     void cmd_output_Click();
-    void applyInterlock();
+    void applyInterlocks() override;
     VcdxbuildInputs inputs() const;
-    void setControlsEnabled(bool enabled);
-    void report();
+    void report() override;
 
-    ToolContext context_;
-    Services& services_;
     const BuildToolText& text_;
 };
 

@@ -1,6 +1,5 @@
 #include "author/disc_tool_form.h"
 
-#include "about/mod_about.h"
 #include "author/mpeg_load_dialog.h"
 #include "core/job_paths.h"
 #include "core/mod_general.h"
@@ -9,8 +8,6 @@
 #include "forms/tool_form.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -19,16 +16,10 @@
 namespace torvane {
 
 DiscToolForm::DiscToolForm(const ToolContext& context, const DiscToolText& text)
-    : QWidget(nullptr, Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
-                           Qt::WindowCloseButtonHint),
-      frame(*this, context.services, QString::fromUtf8(text.consoleTitle),
-            {[this] { report(); }, [this] { setControlsEnabled(true); }}),
-      services_(context.services),
-      context_(context),
+    : ToolDialog(context, {text.formName, text.caption, text.consoleTitle, "VCDImager",
+                           Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
+                               Qt::WindowCloseButtonHint}),
       text_(text) {
-    setObjectName(QLatin1String(text.formName));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QString::fromUtf8(text.caption));
     buildControls();
     Form_Load();
 }
@@ -93,18 +84,17 @@ void DiscToolForm::buildControls() {
     chk_update->setChecked(true);
     form.addOptionRow({firstBox, chk_brokensvcd, chk_update});
 
-    Frame1 = form.descriptionFrame(text_.frameTitle, text_.frameText, text_.picture);
-    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
-    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
-    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
-    cmd_about = form.button("cmd_about", text_.aboutCaption, text_.aboutCaption);
-    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, text_.picture);
+    addDescription(form, text_.frameTitle, text_.frameText, text_.picture);
+    addCommands(form, text_.aboutCaption, text_.aboutCaption, text_.picture);
     form.finish({cmd_input, cmd_output, opt_vcd11, opt_vcd2, opt_svcd, opt_hqvcd, txt_volumelabel,
                  txt_albumid, txt_volumecount, txt_volumenumber, firstBox, chk_brokensvcd,
                  chk_update, cmd_rip, cmd_cancel, cmd_about});
 
+    setJobControls({txt_output, cmd_output, txt_inputnumber, cmd_input, opt_vcd11, opt_vcd2,
+                    opt_svcd, opt_hqvcd, txt_volumelabel, txt_albumid, txt_volumecount,
+                    txt_volumenumber, firstBox, chk_brokensvcd, chk_update, cmd_about, cmd_rip,
+                    cmd_cancel});
     const QString filter = *text_.outputFilter;
-    const QString aboutKey = QString::fromUtf8(text_.aboutKey);
     connect(cmd_input, &QPushButton::clicked, this, &DiscToolForm::cmd_input_Click);
     connect(cmd_output, &QPushButton::clicked, this,
             [this, filter] { Browse(services_.files, BrowseKind::Save, filter, *txt_output); });
@@ -112,23 +102,16 @@ void DiscToolForm::buildControls() {
     for (QRadioButton* type : {opt_vcd11, opt_vcd2, opt_svcd, opt_hqvcd})
         connect(type, &QRadioButton::toggled, this, [this](bool selected) {
             if (selected)
-                applyInterlock();
+                applyInterlocks();
         });
-    connect(cmd_rip, &QPushButton::clicked, this, &DiscToolForm::cmd_rip_Click);
-    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
-    connect(cmd_about, &QPushButton::clicked, this,
-            [this, aboutKey] { ShowComponentAbout(*this, aboutKey); });
-    MakeCancelButton(*this, *cmd_cancel);
     MakeDefaultButton(*this, *cmd_input);
 }
 
 void DiscToolForm::Form_Load() {
-    tool_folder = ToolFolder(context_.appPath, QStringLiteral("VCDImager"), QChar(kPathSeparator));
-    crlf = QStringLiteral("\r\n");
     file_count = 0;
     file_list.clear();
     txt_inputnumber->setText(QStringLiteral("0"));
-    applyInterlock();
+    applyInterlocks();
 }
 
 DiscType DiscToolForm::selectedType() const {
@@ -139,7 +122,7 @@ DiscType DiscToolForm::selectedType() const {
     return opt_hqvcd->isChecked() ? DiscType::Hqvcd : DiscType::Vcd2;
 }
 
-void DiscToolForm::applyInterlock() {
+void DiscToolForm::applyInterlocks() {
     const DiscType type = selectedType();
     firstBox->setEnabled(text_.firstBoxCounts(type));
     chk_brokensvcd->setEnabled(SvcdOptionsCount(type));
@@ -181,7 +164,7 @@ void DiscToolForm::cmd_rip_Click() {
     const JobPlan plan = text_.buildJob(disc, firstBox->isChecked());
     const QString outputDir = SplitOutputPath(disc.output, disc.sep).output_dir;
     // The list's names were each looked at as they were added (mpeg_load_dialog.cpp).
-    if (!GoMayProceed(services_.boxes, DiscSettingsValidation(disc), CarriedPaths({disc.output}),
+    if (!goMayProceed(DiscSettingsValidation(disc), CarriedPaths({disc.output}),
                       WrittenFolders({tool_folder, outputDir})))
         return;
     list_path = ListFilePath(disc);
@@ -191,18 +174,7 @@ void DiscToolForm::cmd_rip_Click() {
         InformationBox(services_.boxes, kInformation, FileNotWrittenMessage(list_path, reason));
         return;
     }
-    setControlsEnabled(false);
-    frame.Start(plan, {list_path});
-}
-
-void DiscToolForm::setControlsEnabled(bool enabled) {
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             txt_output, cmd_output, txt_inputnumber, cmd_input, opt_vcd11, opt_vcd2, opt_svcd,
-             opt_hqvcd, txt_volumelabel, txt_albumid, txt_volumecount, txt_volumenumber, firstBox,
-             chk_brokensvcd, chk_update, cmd_about, cmd_rip, cmd_cancel})
-        control->setEnabled(enabled);
-    if (enabled)
-        applyInterlock();
+    startJob(plan, {list_path});
 }
 
 void DiscToolForm::report() {
@@ -211,10 +183,6 @@ void DiscToolForm::report() {
         InformationBox(services_.boxes, kInformation, outcome.text);
     else if (ConfirmationBox(services_.boxes, kInformation, outcome.text) == vbYes)
         OpenInViewer(services_, text_.opensLog ? frame.log_path : txt_output->text());
-}
-
-void DiscToolForm::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

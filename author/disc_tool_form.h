@@ -4,15 +4,13 @@
 // its own first check box (No PBC, or 2336-byte sectors), texts, job and report.
 
 #include "core/disc_settings.h"
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
+#include "forms/tool_dialog.h"
 
 #include <QString>
 #include <QStyle>
 #include <QWidget>
 
 class QCheckBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -42,19 +40,18 @@ struct DiscToolText {
     ListToolReport (*buildReport)(const std::optional<QByteArray>& log) = nullptr;
     bool opensLog = false;  // Yes to the question opens the log; otherwise the output
     const char* aboutCaption = nullptr;
-    const char* aboutKey = nullptr;
     const char* frameTitle = nullptr;
     const char* frameText = nullptr;
     QStyle::StandardPixmap picture = QStyle::SP_CustomBase;
 };
 
-class DiscToolForm : public QWidget {
+class DiscToolForm : public ToolDialog {
     Q_OBJECT
 public:
     DiscToolForm(const ToolContext& context, const DiscToolText& text);
 
     void cmd_input_Click();
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
 
     QLabel* lbl_input;
     QLabel* Label2;
@@ -79,34 +76,20 @@ public:
     QCheckBox* firstBox;  // chk_nopbc or chk_s2336
     QCheckBox* chk_brokensvcd;
     QCheckBox* chk_update;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
 
-    QString crlf;
-    QString tool_folder;
     int16_t file_count = 0;
     QString file_list;
     QString list_path;
-    QString Tag;     // the channel to the list dialog, empty outside that exchange
-    JobFrame frame;  // console, script_path, job_running, Timer1
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
+    QString Tag;  // the channel to the list dialog, empty outside that exchange
 
 private:
     void buildControls();
     void Form_Load();
     DiscType selectedType() const;
     DiscSettings settings() const;
-    void applyInterlock();
-    void setControlsEnabled(bool enabled);
-    void report();
+    void applyInterlocks() override;
+    void report() override;
 
-    Services& services_;
-    ToolContext context_;
     const DiscToolText& text_;
 };
 

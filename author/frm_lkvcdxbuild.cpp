@@ -11,7 +11,6 @@ BuildToolText Text() {
     text.consoleTitle = "Torvane -- lkVCDxBUILD Tool";
     text.folderWord = "lkVCDImager";
     text.aboutCaption = "About lkVCDxBUILD";
-    text.aboutKey = "lkvcdxbuild";
     text.frameTitle = "What does lkVCDxBUILD do?";
     text.frameText =
         "lkVCDxBUILD takes the XML descripter file of a S/VCD project and creates a CD image on "

@@ -35,7 +35,6 @@ DiscToolText Text() {
     text.buildReport = BuildVcdimagerReport;
     text.opensLog = true;
     text.aboutCaption = "About VCDIMAGER";
-    text.aboutKey = "vcdimager";
     text.frameTitle = "What does VCDIMAGER do?";
     text.frameText =
         "VCDIMAGER is the original tool that has since developed into the VCDImager suite of "

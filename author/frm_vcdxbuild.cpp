@@ -11,7 +11,6 @@ BuildToolText Text() {
     text.consoleTitle = "Torvane -- VCDXBUILD Tool";
     text.folderWord = "VCDImager";
     text.aboutCaption = "About VCDXBUILD";
-    text.aboutKey = "vcdxbuild";
     text.frameTitle = "What does VCDXBUILD do?";
     text.frameText =
         "VCDXBUILD takes the XML descripter file of a S/VCD project and creates a CD image on your "

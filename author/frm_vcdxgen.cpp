@@ -32,7 +32,6 @@ DiscToolText Text() {
     text.buildReport = BuildVcdxgenReport;
     text.opensLog = false;
     text.aboutCaption = "About VCDXGEN";
-    text.aboutKey = "vcdxgen";
     text.frameTitle = "What does VCDXGEN do?";
     text.frameText =
         "VCDXGEN is a tools that generates a simple XML descriptor file for a potential VCD and "

@@ -9,6 +9,7 @@
 #include <functional>
 
 class QCloseEvent;
+class QWidget;
 
 namespace torvane {
 
@@ -18,6 +19,8 @@ struct ToolContext {
     Services& services;
     QString appPath;                     // the current directory at start-up
     std::function<void()> returnToMenu;  // the dialog has closed
+    // The About box of the dialog's tool, opened over `dialog`.
+    std::function<void(QWidget& dialog)> showAbout;
 };
 
 // Form_Unload of a tool dialog that runs a job: the frame's guard (a running job asks

@@ -3,25 +3,20 @@
 // gained, turned back into a plain MPEG stream.
 
 #include "core/output_watch.h"
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
+#include "forms/tool_dialog.h"
 
-#include <QString>
-#include <QWidget>
-
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace torvane {
 
-class frm_cdxa2mpeg : public QWidget {
+class frm_cdxa2mpeg : public ToolDialog {
     Q_OBJECT
 public:
-    frm_cdxa2mpeg(const ToolContext& context);
+    explicit frm_cdxa2mpeg(const ToolContext& context);
 
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
 
     QLabel* lbl_input;
     QLineEdit* txt_input;
@@ -29,27 +24,11 @@ public:
     QLabel* lbl_output;
     QLineEdit* txt_output;
     QPushButton* cmd_output;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
-
-    QString crlf;
-    QString tool_folder;
-    JobFrame frame;  // console, script_path, job_running, Timer1
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
-    void Form_Load();
-    void setControlsEnabled(bool enabled);
-    void report();
+    void report() override;
 
-    ToolContext context_;
-    Services& services_;
     OutputWatch output_;
 };
 

@@ -3,26 +3,21 @@
 // as an XML file by the tool.
 
 #include "core/output_watch.h"
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
-
-#include <QString>
-#include <QWidget>
+#include "forms/tool_dialog.h"
 
 class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QGroupBox;
 
 namespace torvane {
 
-class frm_vcdxminfo : public QWidget {
+class frm_vcdxminfo : public ToolDialog {
     Q_OBJECT
 public:
-    frm_vcdxminfo(const ToolContext& context);
+    explicit frm_vcdxminfo(const ToolContext& context);
 
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
 
     QLabel* lbl_input;
     QLineEdit* txt_input;
@@ -33,31 +28,14 @@ public:
     QCheckBox* chk_generic;
     QCheckBox* chk_aps;
     QCheckBox* chk_apsrelaxed;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
-
-    QString crlf;
-    QString tool_folder;
-    JobFrame frame;  // console, script_path, job_running, Timer1
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
-    void Form_Load();
-    void chk_aps_Click();
-    void setControlsEnabled(bool enabled);
-    void report();
+    void applyInterlocks() override;
+    void report() override;
 
     // The report is offered only when this job wrote it: a failed tool may leave an older one.
     OutputWatch output_;
-
-    ToolContext context_;
-    Services& services_;
 };
 
 }  // namespace torvane

@@ -1,6 +1,5 @@
 #include "rip/frm_lkvcdxrip.h"
 
-#include "about/mod_about.h"
 #include "core/job_paths.h"
 #include "core/lkvcdxrip_builder.h"
 #include "core/mod_general.h"
@@ -11,11 +10,9 @@
 #include "rip/scan_forms.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -58,14 +55,8 @@ QComboBox* List(QWidget* form, const char* name, const char* tip) {
 }  // namespace
 
 frm_lkvcdxrip::frm_lkvcdxrip(const ToolContext& context)
-    : QWidget(nullptr, kFixedDialogFlags),
-      frame(*this, context.services, QStringLiteral("Torvane -- lkVCDxRIP Tool"),
-            {[this] { report(); }, [this] { enableAfterJob(); }}),
-      context_(context),
-      services_(context.services) {
-    setObjectName(QStringLiteral("frm_lkvcdxrip"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("lkVCDxRIP - Torvane"));
+    : ToolDialog(context, {"frm_lkvcdxrip", "lkVCDxRIP - Torvane", "Torvane -- lkVCDxRIP Tool",
+                           "lkVCDImager", kFixedDialogFlags}) {
     buildControls();
     connectControls();
     // After the form's fixed size is set: fixing the size clears a minimised state.
@@ -101,18 +92,14 @@ void frm_lkvcdxrip::buildControls() {
     chk_norip = form.checkBox("chk_norip", "Only extract XML structure",
                               "Check if you only want the XML descriptor");
     form.addOptionRow({chk_s2336, chk_noextpsd, chk_norip});
-    Frame1 = form.descriptionFrame(
-        "What does lkVCDxRIP do?",
+    addDescription(
+        form, "What does lkVCDxRIP do?",
         "lkVCDxRIP takes a disc image of a (S)VCD and extracts from it all the media files, as "
         "well as generating an XML file of the disc.  The format of the disc image can be "
         "either the CUE/BIN format or the Nero Burning Rom NRG format.  You can also DIRECTLY "
         "rip from the (S)VCD as well!",
         QStyle::SP_DirOpenIcon);
-    Label1 = Frame1->findChild<QLabel*>(QStringLiteral("Label1"));
-    cmd_rip = form.button("cmd_rip", "Go!", "Click to GO!");
-    cmd_cancel = form.button("cmd_cancel", "Cancel", "Quit");
-    cmd_about = form.button("cmd_about", "About lkVCDxRIP", "About lkVCDxRIP");
-    form.addCommandRow(cmd_rip, cmd_cancel, cmd_about, QStyle::SP_FileDialogInfoView);
+    addCommands(form, "About lkVCDxRIP", "About lkVCDxRIP", QStyle::SP_FileDialogInfoView);
     form.finish({opt_image, opt_cddrive, cmd_input, list_cd, list_driver, cmd_help, cmd_output,
                  chk_s2336, chk_noextpsd, chk_norip, cmd_rip, cmd_cancel, cmd_about});
     opt_image->setChecked(true);
@@ -133,18 +120,10 @@ void frm_lkvcdxrip::connectControls() {
         frm_scanfail help(*this, services_);
         help.exec();
     });
-    connect(cmd_rip, &QPushButton::clicked, this, &frm_lkvcdxrip::cmd_rip_Click);
-    connect(cmd_cancel, &QPushButton::clicked, this, &QWidget::close);
-    connect(cmd_about, &QPushButton::clicked, this,
-            [this] { ShowComponentAbout(*this, QStringLiteral("lkvcdxrip")); });
     connect(&Timer2, &QTimer::timeout, this, &frm_lkvcdxrip::Timer2_Timer);
-    MakeCancelButton(*this, *cmd_cancel);
 }
 
 void frm_lkvcdxrip::Form_Load() {
-    tool_folder =
-        ToolFolder(context_.appPath, QStringLiteral("lkVCDImager"), QChar(kPathSeparator));
-    crlf = QStringLiteral("\r\n");
     startScan();
 }
 
@@ -217,20 +196,23 @@ void frm_lkvcdxrip::cmd_rip_Click() {
     const JobPlan plan = BuildLkvcdxripJob(in);
     const QStringList paths =
         in.fromDrive ? QStringList{in.output} : QStringList{in.input, in.output};
-    if (!GoMayProceed(services_.boxes, LkvcdxripValidation(in), CarriedPaths(paths),
-                      WrittenFolders({plan.jobDir})))
+    if (!goMayProceed(LkvcdxripValidation(in), CarriedPaths(paths), WrittenFolders({plan.jobDir})))
         return;
     output_dir = plan.jobDir;
-    setControlsEnabled(false);
-    frame.Start(plan);
+    startJob(plan);
 }
 
+// Coming back, each control follows the rip source and the outcome of the scan.
 void frm_lkvcdxrip::setControlsEnabled(bool enabled) {
+    if (enabled) {
+        enableAfterJob();
+        return;
+    }
     for (QWidget* control :
          std::initializer_list<QWidget*>{txt_output, cmd_output, opt_image, opt_cddrive, list_cd,
                                          list_driver, cmd_help, txt_input, cmd_input, chk_s2336,
                                          chk_noextpsd, chk_norip, cmd_about, cmd_rip, cmd_cancel})
-        control->setEnabled(enabled);
+        control->setEnabled(false);
 }
 
 void frm_lkvcdxrip::enableAfterJob() {
@@ -266,10 +248,6 @@ void frm_lkvcdxrip::report() {
     }
     if (ConfirmationBox(services_.boxes, kInformation, LogSuccessText()) == vbYes)
         OpenInViewer(services_, frame.log_path);
-}
-
-void frm_lkvcdxrip::closeEvent(QCloseEvent* event) {
-    UnloadToolDialog(*event, frame, context_);
 }
 
 }  // namespace torvane

@@ -3,8 +3,7 @@
 // or straight from a disc in a CD drive. At every opening it scans for the machine's
 // drives (Timer2); until the scan ends the dialog lies minimised behind a wait box.
 
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
+#include "forms/tool_dialog.h"
 #include "job/job_start.h"
 
 #include <QString>
@@ -13,7 +12,6 @@
 
 class QCheckBox;
 class QComboBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -24,12 +22,12 @@ namespace torvane {
 class frm_wait;
 struct LkvcdxripInputs;
 
-class frm_lkvcdxrip : public QWidget {
+class frm_lkvcdxrip : public ToolDialog {
     Q_OBJECT
 public:
-    frm_lkvcdxrip(const ToolContext& context);
+    explicit frm_lkvcdxrip(const ToolContext& context);
 
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
     // The drive-option interlock: drive mode enables the two lists, image mode the image.
     void ApplyRipSource();
 
@@ -47,25 +45,14 @@ public:
     QCheckBox* chk_s2336;
     QCheckBox* chk_noextpsd;
     QCheckBox* chk_norip;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
     frm_wait* wait;
 
-    QString crlf;
-    QString tool_folder;
     QString output_dir;
     int16_t scan_failed = 0;
     QString message_path;
     QString scanbus_path;
-    JobFrame frame;  // console, script_path, log_path, job_running, Timer1
     QTimer Timer2;
     HiddenScript scan;  // ends with the dialog
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
@@ -74,12 +61,9 @@ private:
     void startScan();
     void Timer2_Timer();
     LkvcdxripInputs inputs() const;
-    void setControlsEnabled(bool enabled);
+    void setControlsEnabled(bool enabled) override;
     void enableAfterJob();
-    void report();
-
-    ToolContext context_;
-    Services& services_;
+    void report() override;
 };
 
 }  // namespace torvane

@@ -3,28 +3,21 @@
 // an XML descriptor, all in the folder of the descriptor.
 
 #include "core/vcdxrip_builder.h"
-#include "forms/tool_context.h"
-#include "job/job_frame.h"
-
-#include <QString>
-#include <QWidget>
+#include "forms/tool_dialog.h"
 
 class QCheckBox;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace torvane {
 
-class ToolForm;
-
-class frm_vcdxrip : public QWidget {
+class frm_vcdxrip : public ToolDialog {
     Q_OBJECT
 public:
-    frm_vcdxrip(const ToolContext& context);
+    explicit frm_vcdxrip(const ToolContext& context);
 
-    void cmd_rip_Click();
+    void cmd_rip_Click() override;
 
     QLabel* lbl_input;
     QLineEdit* txt_input;
@@ -38,31 +31,13 @@ public:
     QCheckBox* chk_nofiles;
     QCheckBox* chk_nosequences;
     QCheckBox* chk_nosegments;
-    QPushButton* cmd_rip;
-    QPushButton* cmd_cancel;
-    QPushButton* cmd_about;
-    QGroupBox* Frame1;
-    QLabel* Label1;
-
-    QString crlf;
-    QString tool_folder;
-    JobFrame frame;  // console, script_path, log_path, job_running, Timer1
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
     void buildOptions(ToolForm& form);
-    void connectControls();
-    void Form_Load();
-    void chk_norip_Click();
+    void applyInterlocks() override;
     VcdxripInputs inputs() const;
-    void setControlsEnabled(bool enabled);
-    void report();
-
-    ToolContext context_;
-    Services& services_;
+    void report() override;
 };
 
 }  // namespace torvane

@@ -1,6 +1,7 @@
 #include "shell/frm_mainmenu.h"
 
 #include "about/frmAbout.h"
+#include "about/mod_about.h"
 #include "forms/desktop_services.h"
 #include "shell/mod_mainmenu.h"
 #include "shell/tool_descriptions.h"
@@ -176,7 +177,8 @@ QWidget* frm_mainmenu::openTool(const QString& key) {
     if (!tool)
         return nullptr;
     EnterToolDialog(*this, QLatin1String(tool->title));
-    QWidget* dialog = tool->open({services_, Tag, [this] { ReturnToMainMenu(*this); }});
+    QWidget* dialog = tool->open({services_, Tag, [this] { ReturnToMainMenu(*this); },
+                                  [key](QWidget& opener) { ShowComponentAbout(opener, key); }});
     dialog->show();
     return dialog;
 }
