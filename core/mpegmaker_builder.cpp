@@ -58,8 +58,8 @@ QString PaddingFilter(MakerTarget target, TvStandard standard) {
     const int fullHeightWidth = frame.width * 3;   // over 4, times dar
     const int fullWidthHeight = frame.height * 4;  // over 3, over dar
     return QStringLiteral(
-               "scale=w='if(gt(dar,4/3),%1,2*trunc(%3*dar/8))':"
-               "h='if(gt(dar,4/3),2*trunc(%4/dar/6),%2)',pad=%1:%2:-1:-1,setdar=4/3")
+               "scale=w='if(gt(dar,4/3),%1,2*round(%3*dar/8))':"
+               "h='if(gt(dar,4/3),2*round(%4/dar/6),%2)',pad=%1:%2:-1:-1,setdar=4/3")
         .arg(frame.width)
         .arg(frame.height)
         .arg(fullHeightWidth)
