@@ -139,6 +139,7 @@ private slots:
         Pick(f, {square, wide}, folder);
         QCOMPARE(f.dialog.lbl_standard->text(), "PAL: the first file runs at 25 frames a second");
         f.dialog.findChild<QRadioButton*>(target)->click();
+        QVERIFY(f.dialog.opt_pal->isChecked());  // the target leaves the standard as it was
         QVERIFY(f.go(vbOK));
 
         const QString text = f.fakes.boxes.shown.at(0).text;
