@@ -1,6 +1,6 @@
 #include "author/disc_tool_form.h"
 
-#include "author/mpeg_load_dialog.h"
+#include "forms/mpeg_load_dialog.h"
 #include "core/job_paths.h"
 #include "core/mod_general.h"
 #include "core/whole_file_write.h"

@@ -6,7 +6,7 @@ namespace torvane {
 
 namespace {
 
-enum class Shape { UsageOnly, Fork, Suite };
+enum class Shape { UsageOnly, Fork, Suite, Maker };
 
 struct Row {
     const char* key;
@@ -19,6 +19,8 @@ const Row kRows[] = {
     {"cdxa2mpeg", "About CDXA2MPEG", "usage: cdxa2mpg infile [outfile]", Shape::UsageOnly},
     {"lkvcdxbuild", "About lkVCDxBUILD", "lkVCDxBuild 5.0.7.10(win32)", Shape::Fork},
     {"lkvcdxrip", "About lkVCDxRIP", "lkVCDxRIP 5.0.7.10(win32)", Shape::Fork},
+    {"mpegmaker", "About MPEG MAKER", "usage: mpegmaker target filter infile outfile",
+     Shape::Maker},
     {"vcddebug", "About VCDDEBUG", "vcddebug (GNU VCDImager) 0.7.12", Shape::Suite},
     {"vcdimager", "About VCDIMAGER", "vcdimager (GNU VCDImager) 0.7.12", Shape::Suite},
     {"vcdxbuild", "About VCDXBUILD", "vcdxbuild (GNU VCDImager) 0.7.12", Shape::Suite},
@@ -72,12 +74,31 @@ QStringList SuiteLines() {
             QStringLiteral("PARTICULAR PURPOSE.")};
 }
 
+// The program's own tool, over FFmpeg.
+QStringList MakerLines() {
+    return {
+        QString(),
+        QStringLiteral("description:"),
+        QStringLiteral("  Makes a VCD or SVCD MPEG stream of any video file that FFmpeg reads,"),
+        QStringLiteral("  with FFmpeg's own targets (pal-vcd, ntsc-vcd, pal-svcd, ntsc-svcd)"),
+        QString(),
+        QStringLiteral("copyright:"),
+        QStringLiteral("  Copyright (C) the makers of Torvane"),
+        QStringLiteral("  FFmpeg: Copyright (C) the FFmpeg developers <https://ffmpeg.org/>"),
+        QStringLiteral("  This is free software; see the source for copying conditions.  "
+                       "There is NO "),
+        QStringLiteral("  warranty; not even for MERCHANTABILITY or FITNESS FOR A PARTICULAR "
+                       "PURPOSE.")};
+}
+
 QStringList LinesAfterTheFirst(Shape shape) {
     switch (shape) {
         case Shape::UsageOnly:
             return UsageOnlyLines();
         case Shape::Fork:
             return ForkLines();
+        case Shape::Maker:
+            return MakerLines();
         case Shape::Suite:
             break;
     }

@@ -1,5 +1,5 @@
 #pragma once
-// The About texts of the nine console tools: the version and usage text each tool prints
+// The About texts of the ten console tools (nine of the suite, and the MPEG maker's): the version and usage text each tool prints
 // about itself, as it stands in the tool set the program was made for. Fixed texts, never
 // asked of the tools.
 
@@ -13,7 +13,7 @@ struct ComponentAbout {
     QString text;     // lines joined by CR LF, no line end after the last
 };
 
-// The caption and text of one of the nine lower-case keys ("vcdxrip", ...), compared
+// The caption and text of one of the ten lower-case keys ("vcdxrip", ...), compared
 // exactly; nullopt for any other text.
 std::optional<ComponentAbout> ComponentAboutFor(const QString& key);
 

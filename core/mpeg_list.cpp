@@ -33,4 +33,18 @@ MpegList WithoutLastEntry(const MpegList& list) {
     return {list.count - 1, list.text.left(lastEnd)};
 }
 
+QStringList EntryPaths(const MpegList& list) {
+    QStringList paths;
+    if (list.count == 0)
+        return paths;
+    // The list dialog refuses a name holding a quote or a line end (UnsafePathReason), so
+    // each entry is one quoted path and no more.
+    for (QString entry : list.text.split(kLineEnd)) {
+        if (entry.startsWith(QLatin1Char('"')) && entry.endsWith(QLatin1Char('"')))
+            entry = entry.mid(1, entry.size() - 2);
+        paths << entry;
+    }
+    return paths;
+}
+
 }  // namespace torvane

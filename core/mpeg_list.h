@@ -5,6 +5,7 @@
 // the last. The same text, unchanged, is the list file that the tool reads.
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace torvane {
@@ -29,5 +30,8 @@ MpegList WithFileAdded(const MpegList& list, const QString& path);
 
 // `list` without its last entry, and without the line end before it.
 MpegList WithoutLastEntry(const MpegList& list);
+
+// The paths of the list's entries, without their quotes, in the list's order.
+QStringList EntryPaths(const MpegList& list);
 
 }  // namespace torvane

@@ -53,6 +53,8 @@ public:
                                                 const QString& folder) = 0;
     virtual std::optional<QString> saveFileName(const QString& filter, int filterIndex,
                                                 const QString& folder) = 0;
+    // A folder that exists, picked from `folder` on; nullopt when the user cancels.
+    virtual std::optional<QString> existingFolder(const QString& folder) = 0;
 };
 
 class Desktop {

@@ -125,6 +125,14 @@ std::optional<QString> QtFileDialogs::saveFileName(const QString& filter, int fi
     return RunFileDialog(QFileDialog::AcceptSave, filter, filterIndex, folder);
 }
 
+std::optional<QString> QtFileDialogs::existingFolder(const QString& folder) {
+    const QString picked =
+        QFileDialog::getExistingDirectory(QApplication::activeWindow(), QString(), folder);
+    if (picked.isEmpty())
+        return std::nullopt;
+    return picked;
+}
+
 bool QtDesktop::openInViewer(const QString& path) {
     return HasDesktopHandler(path) && RunOpener(QUrl::fromLocalFile(path).toString());
 }

@@ -16,6 +16,7 @@ public:
                                         const QString& folder) override;
     std::optional<QString> saveFileName(const QString& filter, int filterIndex,
                                         const QString& folder) override;
+    std::optional<QString> existingFolder(const QString& folder) override;
 };
 
 class QtDesktop : public Desktop {

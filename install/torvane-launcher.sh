@@ -26,8 +26,8 @@ $1"
     fi
     exit 1
 }
-error=$(mkdir -p "$app/VCDImager" 2>&1 && mkdir -p "$app/lkVCDImager" 2>&1) || fail "$error"
-for file in "$installed"/* "$installed"/VCDImager/* "$installed"/lkVCDImager/*; do
+error=$(mkdir -p "$app/VCDImager" "$app/lkVCDImager" "$app/MPEG" 2>&1) || fail "$error"
+for file in "$installed"/* "$installed"/VCDImager/* "$installed"/lkVCDImager/* "$installed"/MPEG/*; do
     [ -f "$file" ] || continue
     error=$(ln -sfn "$file" "$app/${file#"$installed"/}" 2>&1) || fail "$error"
 done

@@ -75,6 +75,10 @@ std::optional<QString> ChosenFileDialogs::saveFileName(const QString& filter, in
     return shown_.saveFileName(filter, filterIndex, folder);
 }
 
+std::optional<QString> ChosenFileDialogs::existingFolder(const QString& folder) {
+    return shown_.existingFolder(folder);
+}
+
 QWidget* OpenToolWithFile(frm_mainmenu& menu, ChosenFileDialogs& files, const QString& path) {
     const QString key = ToolForFile(path);
     QWidget* dialog = key.isEmpty() ? nullptr : menu.openTool(key);

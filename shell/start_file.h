@@ -33,6 +33,7 @@ public:
                                         const QString& folder) override;
     std::optional<QString> saveFileName(const QString& filter, int filterIndex,
                                         const QString& folder) override;
+    std::optional<QString> existingFolder(const QString& folder) override;
     std::optional<QString> chosen;
 
 private:

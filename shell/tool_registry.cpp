@@ -9,6 +9,7 @@
 #include "inspect/frm_cdxa2mpeg.h"
 #include "inspect/frm_vcddebug.h"
 #include "inspect/frm_vcdxminfo.h"
+#include "maker/frm_mpegmaker.h"
 #include "rip/frm_lkvcdxrip.h"
 #include "rip/frm_vcdxrip.h"
 
@@ -164,6 +165,18 @@ const std::vector<ToolRow>& ToolRows() {
                  "uses a combination of VCDDEBUG, VCDXRIP and VCDXBUILD to achieve its function.");
          },
          Open<frm_regen>},
+        {"mpegmaker", 2, 0, 2, "&mpeg maker",
+         "Use MPEG Maker to make VCD or SVCD MPEG files from any video file", "MPEG MAKER",
+         QStyle::SP_MediaSeekForward,
+         [] {
+             return QStringLiteral(
+                 "MPEG Maker is a tool that will turn any video file that ffmpeg can read (MP4, "
+                 "MKV, MOV, AVI, WebM ...) into an MPEG file made to the VCD or SVCD standard, "
+                 "in PAL or NTSC.  The picture is fitted into the frame with black bars rather "
+                 "than stretched, and every file made is checked with VCDXMINFO, so that it can "
+                 "go straight into VCDIMAGER or VCDXGEN.");
+         },
+         Open<frm_mpegmaker>},
         {"lkvcdxrip", 1, 0, -1, "lkvcdxrip", "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files",
          "lkVCDxRIP", QStyle::SP_DirOpenIcon,
          [] {

@@ -52,7 +52,7 @@ zcat "$root/usr/share/man/man1/torvane.1.gz" | grep -q "^\.TH TORVANE 1 .* \"Tor
 # Libraries with the least versions the build found; the programs Torvane runs by name.
 depends=$(dpkg-deb -f "$deb" Depends)
 for library in libc6 libgcc-s1 libqt6widgets6 libvterm0 libcdio19; do grep -qF "$library (>= " <<<"$depends"; done
-grep -qE "vcdimager,.*xdg-utils" <<<"$depends"
+grep -qE "ffmpeg,.*vcdimager,.*xdg-utils" <<<"$depends"
 
 # Every program and the preloaded library of a hardened build: stack protector, immediate
 # binding, and checked libc calls. Three make no call the compiler could not prove in bounds,

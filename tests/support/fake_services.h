@@ -47,6 +47,9 @@ public:
         filters << filter;
         return TakeFirst(names, std::optional<QString>());
     }
+    std::optional<QString> existingFolder(const QString&) override {
+        return TakeFirst(names, std::optional<QString>());
+    }
     QStringList filters;                       // of every file dialog shown
     std::deque<std::optional<QString>> names;  // nullopt: the user cancels
 };

@@ -2,7 +2,7 @@
 // in and out, and real jobs whose descriptor is built and ripped back into the clips.
 
 #include "author/frm_vcdxgen.h"
-#include "author/mpeg_load_dialog.h"
+#include "forms/mpeg_load_dialog.h"
 #include "core/vcdxgen_builder.h"
 #include "tests/support/job_driver.h"
 

@@ -1,4 +1,4 @@
-#include "author/mpeg_load_dialog.h"
+#include "forms/mpeg_load_dialog.h"
 
 #include "core/job_paths.h"
 #include "core/services.h"
@@ -16,8 +16,6 @@ namespace torvane {
 
 namespace {
 
-const QString kMpegFilter =
-    QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg");
 const QString kQuestion = QStringLiteral("Question");
 
 template <typename Control>
@@ -31,13 +29,14 @@ Control* Named(Control* control, const char* name, const char* tip = nullptr) {
 }  // namespace
 
 MpegLoadDialog::MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services,
-                               const char* formName)
+                               const char* formName, const QString& title, const QString& filter)
     : QDialog(&partner, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                             Qt::WindowCloseButtonHint),
+      filter_(filter),
       partnerTag_(partnerTag),
       services_(services) {
     setObjectName(QLatin1String(formName));
-    setWindowTitle(QStringLiteral("Load MPEG files..."));
+    setWindowTitle(title);
     setModal(true);
     buildControls();
     Form_Load();
@@ -122,7 +121,7 @@ void MpegLoadDialog::cmd_load_Click() {
         return;
     }
     const std::optional<QString> name =
-        PickFile(services_.files, BrowseKind::Open, kMpegFilter, QString());
+        PickFile(services_.files, BrowseKind::Open, filter_, QString());
     if (!name)
         return;
     // Each name is looked at as it was picked: once in the list text, a name holding quotes

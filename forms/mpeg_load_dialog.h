@@ -1,6 +1,7 @@
 #pragma once
-// The modal list dialog of VCDXGEN (frm_vcdxgen_load) and VCDIMAGER (frm_vcdimager_load):
-// the user builds up the list of MPEG files one file at a time, on a copy. The list comes
+// The modal list dialog of VCDXGEN (frm_vcdxgen_load), VCDIMAGER (frm_vcdimager_load) and
+// the MPEG maker (frm_mpegmaker_load): the user builds up the list of files one file at a
+// time, on a copy. The list comes
 // in and goes back through the partner's Tag as an exchange text (mpeg_list.h); the
 // partner's list changes only on Okay, as a cancelled dialog leaves Tag empty.
 
@@ -18,11 +19,17 @@ namespace torvane {
 
 struct Services;
 
+inline const QString kMpegListFilter =
+    QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg");
+
 class MpegLoadDialog : public QDialog {
     Q_OBJECT
 public:
     // `formName` is the form's name ("frm_vcdxgen_load"); `partnerTag` the partner's Tag.
-    MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services, const char* formName);
+    // A list of other files than MPEG ones gives its own title and file filter.
+    MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services, const char* formName,
+                   const QString& title = QStringLiteral("Load MPEG files..."),
+                   const QString& filter = kMpegListFilter);
 
     QLabel* Label1;
     QLineEdit* txt_inputnumber;
@@ -50,6 +57,7 @@ private:
     void cmd_cancel_Click();
     void show(const MpegList& list);
 
+    QString filter_;
     MpegList list_;  // what the two boxes show, kept whole rather than read back from them
     QString& partnerTag_;
     Services& services_;
