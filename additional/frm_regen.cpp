@@ -24,36 +24,27 @@ const QString kConsoleTitle = QStringLiteral("Torvane -- CUE/BIN Regenerator Too
 const QString kWorking = QStringLiteral("Working...");
 const QString kSuccess = QStringLiteral("Success!");
 const QString kFailed = QStringLiteral("Failed!");
-// The next stage first fires shortly after the hand-over; the polls follow four times a
-// second.
-constexpr int kHandOverMs = 100;
-constexpr int kPollMs = 250;
+constexpr int kHandOverMs = 100;  // from the end of a run to the dialog's return
 constexpr QDir::Filters kPlainFiles = QDir::Files | QDir::Hidden | QDir::System;
-
-void HandOver(JobTimer& from, JobTimer& to) {
-    from.setEnabled(false);
-    from.Tag.clear();
-    to.Tag = QStringLiteral("0");
-    to.setEnabled(true);
-    to.setInterval(kHandOverMs);
-}
 
 }  // namespace
 
 frm_regen::frm_regen(const ToolContext& context)
-    : QWidget(nullptr, Qt::Window), context_(context), services_(context.services) {
+    : QWidget(nullptr, Qt::Window),
+      runner(context.services.boxes, kConsoleTitle),
+      context_(context),
+      services_(context.services) {
     setObjectName(QStringLiteral("frm_regen"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("CUE/BIN Regenerator - Torvane"));
     buildControls();
-    connect(&Timer1, &JobTimer::Timer, this, &frm_regen::Timer1_Timer);
-    connect(&Timer2, &JobTimer::Timer, this, &frm_regen::Timer2_Timer);
-    connect(&Timer3, &JobTimer::Timer, this, &frm_regen::Timer3_Timer);
     connect(&Timer4, &JobTimer::Timer, this, &frm_regen::Timer4_Timer);
     Form_Load();
 }
 
-frm_regen::~frm_regen() = default;
+frm_regen::~frm_regen() {
+    runner.Stop();
+}
 
 void frm_regen::buildControls() {
     ToolForm form(*this);
@@ -145,68 +136,44 @@ void frm_regen::cmd_rip_Click() {
     showMinimized();
     status = std::make_unique<frm_regen_status>();
     status->show();
-    Timer1.setEnabled(true);
-    Timer1.Tag = QStringLiteral("0");
-    Timer1.setInterval(kHandOverMs);
     job_running = true;
+    startStage(Timer1, 1, true, BuildRegenDetectJob(in, false), [this] { detectionEnded(1); });
 }
 
-// The stage job start that every stage and both attempts of stage 1 share. A job that
-// cannot start ends the run at this stage, in words.
-bool frm_regen::startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan) {
+// The stage job start that every stage and both attempts of stage 1 share, on the stage's
+// own timer. A job that cannot start ends the run at this stage, in words.
+void frm_regen::startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan,
+                           std::function<void()> ended) {
     script_path = plan.scriptPath;
     QDir::setCurrent(plan.jobDir);
-    if (const QString failure = WriteJobScript(plan); !failure.isEmpty()) {
-        endRun(timer, stage, kFailed, failure);
-        return false;
-    }
-    try {
-        console = StartJobConsole(services_.boxes, kConsoleTitle, script_path);
-    } catch (const ConsoleError& error) {
-        endRun(timer, stage, kFailed, error.description);
-        return false;
-    }
-    status->showNormal();
-    if (firstStart) {
+    const auto started = [this, stage, firstStart] {
+        status->showNormal();
+        if (!firstStart)
+            return;
         const frm_regen_status::StageRow row = status->row(stage);
         row.title->setEnabled(true);
         row.image->setEnabled(true);
         row.result->setText(kWorking);
-    }
-    timer.Tag = QString::number(timer.Tag.toInt() + 1);
-    timer.setInterval(kPollMs);
-    return true;
+    };
+    runner.Run(timer, plan, {started, std::move(ended), [this, stage](const QString& why) {
+                                 endRun(stage, kFailed, why);
+                             }});
 }
 
-bool frm_regen::endMarkerShown(JobTimer& timer) {
-    if (console->WordScan() != QLatin1String(kEndMarker)) {
-        timer.setInterval(kPollMs);
-        return false;
-    }
-    console.reset();
-    return true;
-}
-
-void frm_regen::Timer1_Timer() {
-    const int tag = Timer1.Tag.toInt();
-    if (tag == 0 || tag == 2) {
-        startStage(Timer1, 1, tag == 0, BuildRegenDetectJob(inputs(), tag == 2));
-        return;
-    }
-    if (!endMarkerShown(Timer1))
-        return;
+// Stage 1 read as 2352-byte sectors first; a disc it does not recognise so may be one of
+// 2336, which the second attempt reads.
+void frm_regen::detectionEnded(int attempt) {
     const QByteArray log = ReadWholeFile(log_path).value_or(QByteArray());
     if (!RegenDetectWarned(log)) {
-        if (tag == 3)
+        if (attempt == 2)
             sector_2336 = -1;
         finishDetection(log);
-    } else if (tag == 1) {
-        // Read as 2352-byte sectors it is no disc: it may be one of 2336.
+    } else if (attempt == 1) {
         deleteJobFiles();
-        Timer1.Tag = QStringLiteral("2");
-        Timer1.setInterval(kHandOverMs);
+        startStage(Timer1, 1, false, BuildRegenDetectJob(inputs(), true),
+                   [this] { detectionEnded(2); });
     } else {
-        endRun(Timer1, 1, kFailed, RegenNotAVcdText());
+        endRun(1, kFailed, RegenNotAVcdText());
     }
 }
 
@@ -215,59 +182,47 @@ void frm_regen::Timer1_Timer() {
 void frm_regen::finishDetection(const QByteArray& log) {
     const std::optional<QByteArray> type = RegenDiscType(log);
     if (!type) {
-        endRun(Timer1, 1, kFailed, RegenNotAVcdText());
+        endRun(1, kFailed, RegenNotAVcdText());
         return;
     }
     disc_type = QString::fromLocal8Bit(*type);
     deleteJobFiles();
     status->lbl_vcddebug->setText(kSuccess);
-    HandOver(Timer1, Timer2);
+    recordWorkFolder();
+    QDir().mkpath(RegenWorkFolder(inputs()));
+    startStage(Timer2, 2, true, BuildRegenRipJob(inputs(), sector_2336 == -1),
+               [this] { ripEnded(); });
 }
 
-void frm_regen::Timer2_Timer() {
-    if (Timer2.Tag.toInt() == 0) {
-        recordWorkFolder();
-        QDir().mkpath(RegenWorkFolder(inputs()));
-        startStage(Timer2, 2, true, BuildRegenRipJob(inputs(), sector_2336 == -1));
-        return;
-    }
-    if (!endMarkerShown(Timer2))
-        return;
+void frm_regen::ripEnded() {
     if (!RegenRipSucceeded(ReadWholeFile(log_path))) {
         // What vcdxrip left stays in the work folder, for the user to look into, beside
         // the user's own files.
         putHeldFilesBack();
         workRecorded_ = false;
-        endRun(Timer2, 2, kFailed, RegenRipFailureText());
+        endRun(2, kFailed, RegenRipFailureText());
         return;
     }
     status->lbl_vcdxrip->setText(kSuccess);
     deleteJobFiles();
-    HandOver(Timer2, Timer3);
+    startStage(Timer3, 3, true, BuildRegenBuildJob(inputs(), sector_2336 == -1),
+               [this] { buildEnded(); });
 }
 
-void frm_regen::Timer3_Timer() {
-    if (Timer3.Tag.toInt() == 0) {
-        startStage(Timer3, 3, true, BuildRegenBuildJob(inputs(), sector_2336 == -1));
-        return;
-    }
-    if (!endMarkerShown(Timer3))
-        return;
+void frm_regen::buildEnded() {
     const std::optional<QByteArray> log = ReadWholeFile(log_path);
     if (RegenBuildSucceeded(log))
-        endRun(Timer3, 3, kSuccess,
+        endRun(3, kSuccess,
                RegenFinalReport(LastLine(*log), disc_type.toLocal8Bit(), sector_2336 == -1));
     else
-        endRun(Timer3, 3, kFailed, RegenBuildFailureText());
+        endRun(3, kFailed, RegenBuildFailureText());
 }
 
-// The end of a run at `stage`: the timer stopped before the box shows, so that this runs
-// once; the box; then the job's files and the run's own part of the work folder go, and
+// The end of a run at `stage`: the stage's timer stopped before the box shows, so that this
+// runs once; the box; then the job's files and the run's own part of the work folder go, and
 // Timer4 closes the run.
-void frm_regen::endRun(JobTimer& timer, int stage, const QString& result, const QString& box) {
-    timer.setEnabled(false);
-    timer.Tag.clear();
-    console.reset();
+void frm_regen::endRun(int stage, const QString& result, const QString& box) {
+    runner.Stop();
     status->row(stage).result->setText(result);
     InformationBox(services_.boxes, kInformation, box);
     QDir::setCurrent(output_dir);
@@ -349,9 +304,8 @@ void frm_regen::closeEvent(QCloseEvent* event) {
             event->ignore();
             return;
         }
-        for (JobTimer* timer : {&Timer1, &Timer2, &Timer3, &Timer4})
-            timer->setEnabled(false);
-        console.reset();
+        runner.Stop();
+        Timer4.setEnabled(false);
         QDir::setCurrent(output_dir);
         deleteJobFiles();
         removeWorkFolder();

@@ -1,21 +1,23 @@
 #pragma once
 // The CUE/BIN Regenerator: a lone BIN file becomes a new CUE/BIN pair through three
-// console jobs that follow one another without the user. Stage 1 (Timer1) reads the disc
-// type and the sector size with vcddebug.exe, in two attempts; stage 2 (Timer2) takes the
-// image apart with vcdxrip.exe into a work folder beside the new image; stage 3 (Timer3)
-// authors the new pair with vcdxbuild.exe; Timer4 closes the run. Only one timer runs at a
-// time: each hands over by stopping itself and arming the next.
+// console jobs that follow one another without the user, each a stage of the job runner on
+// a timer of its own. Stage 1 (Timer1) reads the disc type and the sector size with
+// vcddebug.exe, in two attempts; stage 2 (Timer2) takes the image apart with vcdxrip.exe
+// into a work folder beside the new image; stage 3 (Timer3) authors the new pair with
+// vcdxbuild.exe; Timer4 closes the run. Only one timer runs at a time: the end of a stage
+// starts the next.
 
 #include "additional/frm_regen_status.h"
 #include "core/regen_builder.h"
 #include "core/services.h"
 #include "forms/tool_context.h"
-#include "job/cconsole.h"
+#include "job/job_runner.h"
 #include "job/job_timer.h"
 
 #include <QStringList>
 #include <QWidget>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 class QGroupBox;
@@ -47,10 +49,10 @@ public:
     JobTimer Timer2;
     JobTimer Timer3;
     JobTimer Timer4;
+    JobRunner runner;  // the stages, on Timer1 to Timer3
 
     QString tool_folder;
     QString crlf;
-    std::unique_ptr<CConsole> console;
     QString script_path;
     QString log_path;
     QString output_path;
@@ -71,15 +73,14 @@ private:
     RegenInputs inputs() const;
     void setControlsEnabled(bool enabled);
 
-    void Timer1_Timer();
-    void Timer2_Timer();
-    void Timer3_Timer();
-    void Timer4_Timer();
-
-    bool startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan);
-    bool endMarkerShown(JobTimer& timer);
+    void startStage(JobTimer& timer, int stage, bool firstStart, const JobPlan& plan,
+                    std::function<void()> ended);
+    void detectionEnded(int attempt);
     void finishDetection(const QByteArray& log);
-    void endRun(JobTimer& timer, int stage, const QString& result, const QString& box);
+    void ripEnded();
+    void buildEnded();
+    void endRun(int stage, const QString& result, const QString& box);
+    void Timer4_Timer();
     void deleteJobFiles();
     void recordWorkFolder();
     void removeWorkFolder();

@@ -1,6 +1,7 @@
 #pragma once
 // The console job of a tool dialog, written once: the tail of the Go handler (script
-// written, timer armed), Timer1's two steps, the end-of-job step and the unload guard.
+// written, timer armed), Timer1's two steps through the job runner, the end-of-job step and
+// the unload guard.
 // The dialog keeps its own literals and the order of its own steps; it tells the frame
 // its console title and gives it two hooks: the report of the end-of-job step and the
 // re-enabling of its controls (with its interlocks).
@@ -9,6 +10,7 @@
 #include "core/job_plan.h"
 #include "core/services.h"
 #include "job/cconsole.h"
+#include "job/job_runner.h"
 #include "job/job_timer.h"
 
 #include <QObject>
@@ -48,23 +50,20 @@ public:
     bool running() const { return job_running != 0; }
 
     // The fields of the frame, named as the dialogs name them.
-    std::unique_ptr<CConsole> console;
+    JobTimer Timer1;
+    JobRunner runner;  // runs the job on Timer1
+    std::unique_ptr<CConsole>& console = runner.console;
     QString script_path;
     QString log_path;
     int16_t job_running = 0;
-    JobTimer Timer1;
 
 private:
-    void Timer1_Timer();
-    void startConsole();
-    void pollForEndMarker();
     void finishJob();
     void abandonJob();
     void deleteJobFiles();
 
     QWidget& dialog_;
     Services& services_;
-    QString consoleTitle_;
     Hooks hooks_;
     QStringList extraFiles_;
 };

@@ -42,7 +42,6 @@ const QStringList kDrivers{"GENERIC",
                            "YAMAHA",
                            "NRC",
                            "IMSCDD5"};
-constexpr int kScanPollMs = 250;
 
 QComboBox* List(QWidget* form, const char* name, const char* tip) {
     auto* list = new QComboBox(form);
@@ -56,7 +55,8 @@ QComboBox* List(QWidget* form, const char* name, const char* tip) {
 
 frm_lkvcdxrip::frm_lkvcdxrip(const ToolContext& context)
     : ToolDialog(context, {"frm_lkvcdxrip", "lkVCDxRIP - Torvane", "Torvane -- lkVCDxRIP Tool",
-                           "lkVCDImager", kFixedDialogFlags}) {
+                           "lkVCDImager", kFixedDialogFlags}),
+      scan(context.services.boxes, QString()) {
     buildControls();
     connectControls();
     // After the form's fixed size is set: fixing the size clears a minimised state.
@@ -120,7 +120,6 @@ void frm_lkvcdxrip::connectControls() {
         frm_scanfail help(*this, services_);
         help.exec();
     });
-    connect(&Timer2, &QTimer::timeout, this, &frm_lkvcdxrip::Timer2_Timer);
 }
 
 void frm_lkvcdxrip::Form_Load() {
@@ -128,7 +127,8 @@ void frm_lkvcdxrip::Form_Load() {
 }
 
 // The scan's script, of the tool folder, runs there hidden; its end is a marker in
-// message.txt, which Timer2 polls. A script that cannot start leaves the dialog scanning.
+// message.txt, which the job runner polls on Timer2. A script that cannot start leaves the
+// dialog scanning.
 void frm_lkvcdxrip::startScan() {
     QDir::setCurrent(tool_folder);
     message_path = tool_folder + QStringLiteral("message.txt");
@@ -136,18 +136,19 @@ void frm_lkvcdxrip::startScan() {
     QFile::remove(message_path);
     QFile::remove(scanbus_path);
     QFile(message_path).open(QIODevice::WriteOnly);
-    scan.Start(tool_folder + QStringLiteral("scanbus.bat"), tool_folder);
-    Timer2.setInterval(kScanPollMs);
-    Timer2.start();
+    const QString message = message_path;
+    scan.RunHidden(
+        Timer2, tool_folder + QStringLiteral("scanbus.bat"), tool_folder,
+        [message] {
+            return ReadWholeFile(message).value_or(QByteArray()).startsWith("***done***");
+        },
+        [this] { scanEnded(); });
     wait = new frm_wait(this);
     wait->show();
 }
 
-void frm_lkvcdxrip::Timer2_Timer() {
-    const std::optional<QByteArray> message = ReadWholeFile(message_path);
-    if (!message || !message->startsWith("***done***"))
-        return;
-    Timer2.stop();  // one scan, one list
+// One scan, one list: the runner has stopped Timer2 and ended the scan.
+void frm_lkvcdxrip::scanEnded() {
     wait->hide();
     showNormal();
     QFile::remove(message_path);

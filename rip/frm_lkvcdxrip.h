@@ -4,10 +4,10 @@
 // drives (Timer2); until the scan ends the dialog lies minimised behind a wait box.
 
 #include "forms/tool_dialog.h"
-#include "job/job_start.h"
+#include "job/job_runner.h"
+#include "job/job_timer.h"
 
 #include <QString>
-#include <QTimer>
 #include <QWidget>
 
 class QCheckBox;
@@ -51,15 +51,15 @@ public:
     int16_t scan_failed = 0;
     QString message_path;
     QString scanbus_path;
-    QTimer Timer2;
-    HiddenScript scan;  // ends with the dialog
+    JobTimer Timer2;
+    JobRunner scan;  // hidden, on Timer2; ends with the dialog
 
 private:
     void buildControls();
     void connectControls();
     void Form_Load();
     void startScan();
-    void Timer2_Timer();
+    void scanEnded();
     LkvcdxripInputs inputs() const;
     void setControlsEnabled(bool enabled) override;
     void enableAfterJob();
