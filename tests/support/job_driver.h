@@ -146,7 +146,9 @@ struct DialogFixture {
     // Go, the key at "pause" and `answer` to the report's box; true once idle again.
     bool go(int answer) {
         dialog.cmd_rip->click();
-        if (!WaitForPause(dialog.frame))
+        // Go and the other controls stay off while the job runs.
+        if (!WaitForPause(dialog.frame) || dialog.cmd_rip->isEnabled() ||
+            dialog.cmd_cancel->isEnabled())
             return false;
         fakes.boxes.answers = {answer};
         PressKeyInConsole();
