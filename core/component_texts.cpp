@@ -6,29 +6,6 @@ namespace torvane {
 
 namespace {
 
-enum class Shape { UsageOnly, Fork, Suite, Maker };
-
-struct Row {
-    const char* key;
-    const char* caption;
-    const char* firstLine;
-    Shape shape;
-};
-
-const Row kRows[] = {
-    {"cdxa2mpeg", "About CDXA2MPEG", "usage: cdxa2mpg infile [outfile]", Shape::UsageOnly},
-    {"lkvcdxbuild", "About lkVCDxBUILD", "lkVCDxBuild 5.0.7.10(win32)", Shape::Fork},
-    {"lkvcdxrip", "About lkVCDxRIP", "lkVCDxRIP 5.0.7.10(win32)", Shape::Fork},
-    {"mpegmaker", "About MPEG MAKER", "usage: mpegmaker target filter infile outfile",
-     Shape::Maker},
-    {"vcddebug", "About VCDDEBUG", "vcddebug (GNU VCDImager) 0.7.12", Shape::Suite},
-    {"vcdimager", "About VCDIMAGER", "vcdimager (GNU VCDImager) 0.7.12", Shape::Suite},
-    {"vcdxbuild", "About VCDXBUILD", "vcdxbuild (GNU VCDImager) 0.7.12", Shape::Suite},
-    {"vcdxgen", "About VCDXGEN", "vcdxgen (GNU VCDImager) 0.7.12", Shape::Suite},
-    {"vcdxminfo", "About VCDXMINFO", "vcdxminfo (GNU VCDImager) 0.7.12", Shape::Suite},
-    {"vcdxrip", "About VCDXRIP", "vcdxrip (GNU VCDImager) 0.7.12", Shape::Suite},
-};
-
 const char kSuiteWeb[] = "http://www.gnu.org/software/vcdimager/";
 const char kSuiteMail[] = "<vcdimager@torvane.example.org>";
 const char kForkWeb[] = "https://torvane.example.org/lkvcdimager.html";
@@ -91,15 +68,15 @@ QStringList MakerLines() {
                        "PURPOSE.")};
 }
 
-QStringList LinesAfterTheFirst(Shape shape) {
+QStringList LinesAfterTheFirst(AboutShape shape) {
     switch (shape) {
-        case Shape::UsageOnly:
+        case AboutShape::UsageOnly:
             return UsageOnlyLines();
-        case Shape::Fork:
+        case AboutShape::Fork:
             return ForkLines();
-        case Shape::Maker:
+        case AboutShape::Maker:
             return MakerLines();
-        case Shape::Suite:
+        case AboutShape::Suite:
             break;
     }
     return SuiteLines();
@@ -107,15 +84,10 @@ QStringList LinesAfterTheFirst(Shape shape) {
 
 }  // namespace
 
-std::optional<ComponentAbout> ComponentAboutFor(const QString& key) {
-    for (const Row& row : kRows) {
-        if (key != QLatin1String(row.key))
-            continue;
-        const QStringList lines =
-            QStringList{QLatin1String(row.firstLine)} + LinesAfterTheFirst(row.shape);
-        return ComponentAbout{QLatin1String(row.caption), lines.join(QStringLiteral("\r\n"))};
-    }
-    return std::nullopt;
+ComponentAbout ComposeComponentAbout(const ComponentAboutText& about) {
+    const QStringList lines =
+        QStringList{QString::fromUtf8(about.firstLine)} + LinesAfterTheFirst(about.shape);
+    return {QString::fromUtf8(about.caption), lines.join(QStringLiteral("\r\n"))};
 }
 
 }  // namespace torvane

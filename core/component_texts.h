@@ -1,20 +1,29 @@
 #pragma once
-// The About texts of the ten console tools (nine of the suite, and the MPEG maker's): the version and usage text each tool prints
-// about itself, as it stands in the tool set the program was made for. Fixed texts, never
-// asked of the tools.
+// The About texts of the console tools: the version and usage text each tool prints about
+// itself, as it stands in the tool set the program was made for, and the MPEG maker's own.
+// Fixed texts, never asked of the tools; each tool's first line and shape stand in its row
+// of the table of tools.
 
 #include <QString>
-#include <optional>
 
 namespace torvane {
 
-struct ComponentAbout {
-    QString caption;  // of the box, "About VCDXRIP"
-    QString text;     // lines joined by CR LF, no line end after the last
+// What follows a tool's first line: the usage-only text of cdxa2mpeg, the fork's, the
+// suite's, or the program's own tool's over FFmpeg.
+enum class AboutShape { UsageOnly, Fork, Suite, Maker };
+
+// A tool's About box as its row in the table of tools gives it.
+struct ComponentAboutText {
+    const char* caption = nullptr;    // of the box, "About VCDXRIP"; null: the tool has none
+    const char* firstLine = nullptr;  // "vcdxrip (GNU VCDImager) 0.7.12"
+    AboutShape shape = AboutShape::Suite;
 };
 
-// The caption and text of one of the ten lower-case keys ("vcdxrip", ...), compared
-// exactly; nullopt for any other text.
-std::optional<ComponentAbout> ComponentAboutFor(const QString& key);
+struct ComponentAbout {
+    QString caption;
+    QString text;  // lines joined by CR LF, no line end after the last
+};
+
+ComponentAbout ComposeComponentAbout(const ComponentAboutText& about);
 
 }  // namespace torvane

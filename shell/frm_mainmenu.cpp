@@ -177,8 +177,12 @@ QWidget* frm_mainmenu::openTool(const QString& key) {
     if (!tool)
         return nullptr;
     EnterToolDialog(*this, QLatin1String(tool->title));
-    QWidget* dialog = tool->open({services_, Tag, [this] { ReturnToMainMenu(*this); },
-                                  [key](QWidget& opener) { ShowComponentAbout(opener, key); }});
+    ToolContext context{services_, Tag, [this] { ReturnToMainMenu(*this); }, nullptr};
+    if (tool->about.caption)
+        context.showAbout = [key, about = ComposeComponentAbout(tool->about)](QWidget& opener) {
+            ShowComponentAbout(opener, key, about);
+        };
+    QWidget* dialog = tool->open(context);
     dialog->show();
     return dialog;
 }

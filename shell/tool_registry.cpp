@@ -30,8 +30,14 @@ QWidget* Open(const ToolContext& context) {
 
 const std::vector<ToolRow>& ToolRows() {
     static const std::vector<ToolRow> rows = {
-        {"vcdimager", 0, 0, 0, "&vcdimager", "Use VCDIMAGER to make a S/VCD image from you MPEG.",
-         "VCDIMAGER", QStyle::SP_DriveCDIcon,
+        {"vcdimager",
+         0,
+         0,
+         0,
+         "&vcdimager",
+         "Use VCDIMAGER to make a S/VCD image from you MPEG.",
+         "VCDIMAGER",
+         QStyle::SP_DriveCDIcon,
          [] {
              return QStringLiteral(
                  "VCDIMAGER is the original tool for authoring (S)VCD disc images from MPEG files. "
@@ -42,8 +48,15 @@ const std::vector<ToolRow>& ToolRows() {
                  "for "
                  "making a quick and simple multitrack (S)VCD.");
          },
+         {"About VCDIMAGER", "vcdimager (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcdimager>},
-        {"vcdxgen", 0, 0, 0, "vcdx&gen", "Use VCDXGEN to generate a simple XML.", "VCDXGEN",
+        {"vcdxgen",
+         0,
+         0,
+         0,
+         "vcdx&gen",
+         "Use VCDXGEN to generate a simple XML.",
+         "VCDXGEN",
          QStyle::SP_FileDialogDetailedView,
          [] {
              return QStringLiteral(
@@ -52,9 +65,16 @@ const std::vector<ToolRow>& ToolRows() {
                  "file.  "
                  "This is an ideal start for further editing and customisation of the XML file.");
          },
+         {"About VCDXGEN", "vcdxgen (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcdxgen>},
-        {"vcdxbuild", 0, 0, 0, "vcdx&build", "Use VCDXBUILD to create your S/VCD image.",
-         "VCDXBUILD", QStyle::SP_DialogSaveButton,
+        {"vcdxbuild",
+         0,
+         0,
+         0,
+         "vcdx&build",
+         "Use VCDXBUILD to create your S/VCD image.",
+         "VCDXBUILD",
+         QStyle::SP_DialogSaveButton,
          [] {
              return QStringLiteral(
                  "VCDXBUILD is the tool that reads the XML descriptor file of a (S)VCD.  It parses "
@@ -65,9 +85,16 @@ const std::vector<ToolRow>& ToolRows() {
                  "then "
                  "burn the CUE/BIN image to a physical disc.");
          },
+         {"About VCDXBUILD", "vcdxbuild (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcdxbuild>},
-        {"vcdxrip", 0, 0, 0, "vcdx&rip", "Use VCDXRIP to rip a disc image to XML and MPEG.",
-         "VCDXRIP", QStyle::SP_DialogOpenButton,
+        {"vcdxrip",
+         0,
+         0,
+         0,
+         "vcdx&rip",
+         "Use VCDXRIP to rip a disc image to XML and MPEG.",
+         "VCDXRIP",
+         QStyle::SP_DialogOpenButton,
          [] {
              return QStringLiteral(
                  "VCDXRIP is a tool that will take a disc image of a (S)VCD (in either CUE/BIN or "
@@ -78,9 +105,15 @@ const std::vector<ToolRow>& ToolRows() {
                  "an "
                  "existing VCD.");
          },
+         {"About VCDXRIP", "vcdxrip (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcdxrip>},
-        {"cdxa2mpeg", 0, 0, 0, "&cdxa2mpeg",
-         "Use CDXA2MPEG to remove RIFF headers from MPEG files copied off S/VCDs.", "CDXA2MPEG",
+        {"cdxa2mpeg",
+         0,
+         0,
+         0,
+         "&cdxa2mpeg",
+         "Use CDXA2MPEG to remove RIFF headers from MPEG files copied off S/VCDs.",
+         "CDXA2MPEG",
          QStyle::SP_MediaPlay,
          [] {
              return QStringLiteral(
@@ -92,8 +125,15 @@ const std::vector<ToolRow>& ToolRows() {
                  "before you "
                  "do any subsequent editing. This can be achieved with CDXA2MPEG.");
          },
+         {"About CDXA2MPEG", "usage: cdxa2mpg infile [outfile]", AboutShape::UsageOnly},
          Open<frm_cdxa2mpeg>},
-        {"vcdxminfo", 0, 1, 0, "vcdxm&info", "Use VCDXMINFO to analyse MPEG files.", "VCDXMINFO",
+        {"vcdxminfo",
+         0,
+         1,
+         0,
+         "vcdxm&info",
+         "Use VCDXMINFO to analyse MPEG files.",
+         "VCDXMINFO",
          QStyle::SP_FileDialogInfoView,
          [] {
              return QStringLiteral(
@@ -103,9 +143,16 @@ const std::vector<ToolRow>& ToolRows() {
                  "compliant - "
                  "including MPEG still images.");
          },
+         {"About VCDXMINFO", "vcdxminfo (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcdxminfo>},
-        {"vcddebug", 0, 1, 0, "vcd&debug", "Use VCDDEBUG to analyse a S/VCD disc image.",
-         "VCDDEBUG", QStyle::SP_FileDialogContentsView,
+        {"vcddebug",
+         0,
+         1,
+         0,
+         "vcd&debug",
+         "Use VCDDEBUG to analyse a S/VCD disc image.",
+         "VCDDEBUG",
+         QStyle::SP_FileDialogContentsView,
          [] {
              return QStringLiteral(
                  "VCDDEBUG is a tool that will analyse a CUE/BIN image of a S/VCD (e.g., after "
@@ -114,9 +161,15 @@ const std::vector<ToolRow>& ToolRows() {
                  "information within.  It is particularly useful at picking up bugs, or authoring "
                  "errors before you record your (S)VCD to a physical disc.");
          },
+         {"About VCDDEBUG", "vcddebug (GNU VCDImager) 0.7.12", AboutShape::Suite},
          Open<frm_vcddebug>},
-        {"lkvcdxbuild", 1, 0, 1, "lkvcdxbuild",
-         "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.", "lkVCDxBUILD",
+        {"lkvcdxbuild",
+         1,
+         0,
+         1,
+         "lkvcdxbuild",
+         "Use lkVCDXBUILD to create your S/VCD image with ISO Level 2 filesystems.",
+         "lkVCDxBUILD",
          QStyle::SP_DriveDVDIcon,
          [] {
              return QStringLiteral(
@@ -132,10 +185,16 @@ const std::vector<ToolRow>& ToolRows() {
                         "(S)VCD disc image from the XML descriptor file and the referenced media "
                         "files.");
          },
+         {"About lkVCDxBUILD", "lkVCDxBuild 5.0.7.10(win32)", AboutShape::Fork},
          Open<frm_lkvcdxbuild>},
-        {"subindex", 2, 0, 2, "&subindices",
+        {"subindex",
+         2,
+         0,
+         2,
+         "&subindices",
          "Use Subindicies Remover to strip the subindices from your cuesheets",
-         "Subindicies Remover", QStyle::SP_FileDialogListView,
+         "Subindicies Remover",
+         QStyle::SP_FileDialogListView,
          [] {
              return QStringLiteral(
                         "Subindicies Remover - VCDIMAGER / VCDXBUILD / lkVCDxBUILD all create ") +
@@ -150,10 +209,16 @@ const std::vector<ToolRow>& ToolRows() {
                         "remove "
                         "the subindicies.");
          },
+         {},
          Open<frm_subindex>},
-        {"regen", 2, 0, 2, "rege&nerator",
+        {"regen",
+         2,
+         0,
+         2,
+         "rege&nerator",
          "Use Image Regenerator to recreate a CUE/BIN image if you are missing the CUE file",
-         "CUE/BIN Regenerator", QStyle::SP_BrowserReload,
+         "CUE/BIN Regenerator",
+         QStyle::SP_BrowserReload,
          [] {
              return QStringLiteral(
                  "CUE/BIN Regenerator is a tool that will recreate a CUE/BIN image of a S(VCD) "
@@ -164,9 +229,15 @@ const std::vector<ToolRow>& ToolRows() {
                  "tool "
                  "uses a combination of VCDDEBUG, VCDXRIP and VCDXBUILD to achieve its function.");
          },
+         {},
          Open<frm_regen>},
-        {"mpegmaker", 2, 0, 2, "&mpeg maker",
-         "Use MPEG Maker to make VCD or SVCD MPEG files from any video file", "MPEG MAKER",
+        {"mpegmaker",
+         2,
+         0,
+         2,
+         "&mpeg maker",
+         "Use MPEG Maker to make VCD or SVCD MPEG files from any video file",
+         "MPEG MAKER",
          QStyle::SP_MediaSeekForward,
          [] {
              return QStringLiteral(
@@ -176,9 +247,16 @@ const std::vector<ToolRow>& ToolRows() {
                  "than stretched, and every file made is checked with VCDXMINFO, so that it can "
                  "go straight into VCDIMAGER or VCDXGEN.");
          },
+         {"About MPEG MAKER", "usage: mpegmaker target filter infile outfile", AboutShape::Maker},
          Open<frm_mpegmaker>},
-        {"lkvcdxrip", 1, 0, -1, "lkvcdxrip", "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files",
-         "lkVCDxRIP", QStyle::SP_DirOpenIcon,
+        {"lkvcdxrip",
+         1,
+         0,
+         -1,
+         "lkvcdxrip",
+         "Use lkVCDxRIP to rip a (S)VCD to XML and MPEG files",
+         "lkVCDxRIP",
+         QStyle::SP_DirOpenIcon,
          [] {
              return QStringLiteral(
                         "lkVCDxRIP is a tool that is near identical in its function to VCDXRIP.  "
@@ -191,6 +269,7 @@ const std::vector<ToolRow>& ToolRows() {
                         "files and generate an XML file from the (S)VCD disc itself.  It isn't "
                         "necessary to create a disc image of the disc first.");
          },
+         {"About lkVCDxRIP", "lkVCDxRIP 5.0.7.10(win32)", AboutShape::Fork},
          Open<frm_lkvcdxrip>},
     };
     return rows;

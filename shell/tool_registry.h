@@ -2,6 +2,7 @@
 // The table of tools: one row a tool, from which the menu's buttons, their tab order, the
 // descriptions and the dialogs are made. Adding a tool is a folder of its own and one row.
 
+#include "core/component_texts.h"
 #include "forms/tool_context.h"
 
 #include <QString>
@@ -22,6 +23,7 @@ struct ToolRow {
     const char* title;  // the menu's caption while the dialog is open, before " - Torvane"
     QStyle::StandardPixmap picture;
     QString (*description)();                      // the menu's description box
+    ComponentAboutText about;                      // the box of the dialog's About button
     QWidget* (*open)(const ToolContext& context);  // makes the dialog, not yet shown
 };
 

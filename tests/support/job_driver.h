@@ -2,7 +2,6 @@
 // For tests that drive a real job: fake tools, the steps of a user at the console, and a
 // tool dialog opened from the menu over fake services.
 
-#include "about/mod_about.h"
 #include "job/console_window.h"
 #include "job/job_frame.h"
 #include "shell/tool_registry.h"
@@ -102,8 +101,7 @@ inline void RefusalRow(const char* name, const char* input, const char* output,
 template <class Dialog>
 struct DialogFixture {
     explicit DialogFixture(const char* tool, const QString& appDir = {})
-        : context{fakes.services, appDir.isEmpty() ? app.path() : appDir, [] {},
-                  [tool](QWidget& opener) { ShowComponentAbout(opener, QLatin1String(tool)); }},
+        : context{fakes.services, appDir.isEmpty() ? app.path() : appDir, [] {}, nullptr},
           dialog(make(tool)) {
         UseBuiltInterpreter();
     }
