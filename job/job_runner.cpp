@@ -69,7 +69,7 @@ void JobRunner::tick() {
             finish();
         return;
     }
-    if (timer_->Tag.toInt() == 0) {
+    if (!console) {
         startConsole();
         return;
     }

@@ -33,8 +33,8 @@ public:
     JobRunner(MessageBoxes& boxes, QString consoleTitle);
     ~JobRunner() override;
 
-    // A console stage of `plan` on `timer`: the script written, the timer armed (Tag "0"),
-    // the console started at its first tick (Tag "1"). A script that cannot be written is
+    // A console stage of `plan` on `timer`: the script written, the timer armed (its Tag
+    // "0"), the console started at its first tick (its Tag "1", for whoever reads it). A script that cannot be written is
     // `failed` at once, arms nothing and returns false.
     bool Run(JobTimer& timer, const JobPlan& plan, Hooks hooks);
     // A hidden stage on `timer`: `scriptPath` runs in `workDir` at once, and each poll asks
