@@ -19,33 +19,34 @@ namespace {
 const QString kQuestion = QStringLiteral("Question");
 
 template <typename Control>
-Control* Named(Control* control, const char* name, const char* tip = nullptr) {
+Control* Named(Control* control, const char* name, const QString& tip = QString()) {
     control->setObjectName(QLatin1String(name));
-    if (tip)
-        control->setToolTip(QString::fromUtf8(tip));
+    if (!tip.isEmpty())
+        control->setToolTip(tip);
     return control;
 }
 
 }  // namespace
 
 MpegLoadDialog::MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services,
-                               const char* formName, const QString& title, const QString& filter)
+                               const char* formName, const FileListWords& words)
     : QDialog(&partner, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                             Qt::WindowCloseButtonHint),
-      filter_(filter),
+      words_(words),
       partnerTag_(partnerTag),
       services_(services) {
     setObjectName(QLatin1String(formName));
-    setWindowTitle(title);
+    setWindowTitle(words_.title);
     setModal(true);
     buildControls();
     Form_Load();
 }
 
 void MpegLoadDialog::buildControls() {
-    const char* countTip = "Number of MPEG files loaded (maximum of 98)";
-    Label1 =
-        Named(new QLabel(QStringLiteral("Number of MPEG files loaded:"), this), "Label1", countTip);
+    const QString countTip =
+        QStringLiteral("Number of %1 files loaded (maximum of 98)").arg(words_.kind);
+    Label1 = Named(new QLabel(QStringLiteral("Number of %1 files loaded:").arg(words_.kind), this),
+                   "Label1", countTip);
     txt_inputnumber = Named(new QLineEdit(QStringLiteral("0"), this), "txt_inputnumber", countTip);
     label2 = Named(new QLabel(QStringLiteral("Files:"), this), "label2");
     txt_inputlist = Named(new QPlainTextEdit(this), "txt_inputlist");
@@ -57,13 +58,14 @@ void MpegLoadDialog::buildControls() {
     txt_inputlist->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     txt_inputlist->setMinimumSize(480, 220);
 
-    const auto button = [this](const char* name, const char* caption, const char* tip) {
+    const auto button = [this](const char* name, const char* caption, const QString& tip) {
         auto* control = Named(new QPushButton(QString::fromUtf8(caption), this), name, tip);
         control->setAutoDefault(false);
         return control;
     };
-    cmd_load = button("cmd_load", "&Load", "Load another MPEG file");
-    cmd_okay = button("cmd_okay", "&Okay", "Accept the current list of MPEG files");
+    cmd_load = button("cmd_load", "&Load", QStringLiteral("Load another %1 file").arg(words_.kind));
+    cmd_okay = button("cmd_okay", "&Okay",
+                      QStringLiteral("Accept the current list of %1 files").arg(words_.kind));
     cmd_cancel = button("cmd_cancel", "&Cancel", "Cancel any changes");
     cmd_delete = button("cmd_delete", "&Delete Last", "Remove the last added entry");
     cmd_clear = button("cmd_clear", "Clear List", "Remove all the files on the list");
@@ -114,14 +116,15 @@ void MpegLoadDialog::show(const MpegList& list) {
 void MpegLoadDialog::cmd_load_Click() {
     if (list_.count == kMaxMpegFiles) {
         InformationBox(services_.boxes, kInformation,
-                       QStringLiteral("You have already selected 98 MPEG files.\r\rS/VCDs support "
+                       QStringLiteral("You have already selected 98 %1 files.\r\rS/VCDs support "
                                       "a maximum of 98 MPEG video tracks.\rIf you want to add "
                                       "more files, you will first have to\rdelete some from the "
-                                      "list first."));
+                                      "list first.")
+                           .arg(words_.kind));
         return;
     }
     const std::optional<QString> name =
-        PickFile(services_.files, BrowseKind::Open, filter_, QString());
+        PickFile(services_.files, BrowseKind::Open, words_.filter, QString());
     if (!name)
         return;
     // Each name is looked at as it was picked: once in the list text, a name holding quotes

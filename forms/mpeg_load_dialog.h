@@ -19,17 +19,26 @@ namespace torvane {
 
 struct Services;
 
-inline const QString kMpegListFilter =
-    QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg");
+// What the list holds, in the dialog's words: its title, its file filter and the word
+// before "files" in its labels and boxes.
+struct FileListWords {
+    QString title;
+    QString filter;
+    QString kind;
+};
+
+inline const FileListWords kMpegListWords{
+    QStringLiteral("Load MPEG files..."),
+    QStringLiteral("All Files (*.*)|*.*|MPEG Files (*.mpg, *.mpeg)|*.mpg;*.mpeg"),
+    QStringLiteral("MPEG")};
 
 class MpegLoadDialog : public QDialog {
     Q_OBJECT
 public:
     // `formName` is the form's name ("frm_vcdxgen_load"); `partnerTag` the partner's Tag.
-    // A list of other files than MPEG ones gives its own title and file filter.
+    // A list of other files than MPEG ones gives its own words.
     MpegLoadDialog(QWidget& partner, QString& partnerTag, Services& services, const char* formName,
-                   const QString& title = QStringLiteral("Load MPEG files..."),
-                   const QString& filter = kMpegListFilter);
+                   const FileListWords& words = kMpegListWords);
 
     QLabel* Label1;
     QLineEdit* txt_inputnumber;
@@ -57,7 +66,7 @@ private:
     void cmd_cancel_Click();
     void show(const MpegList& list);
 
-    QString filter_;
+    FileListWords words_;
     MpegList list_;  // what the two boxes show, kept whole rather than read back from them
     QString& partnerTag_;
     Services& services_;

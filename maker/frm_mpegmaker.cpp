@@ -109,8 +109,9 @@ void frm_mpegmaker::buildControls() {
 
 void frm_mpegmaker::cmd_input_Click() {
     Tag = ExchangeText(files);
-    MpegLoadDialog list(*this, Tag, services_, "frm_mpegmaker_load",
-                        QStringLiteral("Load video files..."), kVideoFilter);
+    MpegLoadDialog list(
+        *this, Tag, services_, "frm_mpegmaker_load",
+        {QStringLiteral("Load video files..."), kVideoFilter, QStringLiteral("video")});
     list.exec();
     const QString exchange = Tag;
     Tag.clear();
