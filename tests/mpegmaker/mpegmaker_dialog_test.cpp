@@ -3,6 +3,7 @@
 // job cannot convert.
 
 #include "core/mpegmaker_builder.h"
+#include "core/mpegmaker_report.h"
 #include "forms/mpeg_load_dialog.h"
 #include "maker/frm_mpegmaker.h"
 #include "tests/mpegmaker/mpegmaker_scripts.h"
@@ -111,6 +112,31 @@ private slots:
     void mpegmaker_standard() {
         QFETCH(QByteArray, probe);
         QTEST(NearerStandard(ProbedFrameRate(probe)).reason, "reason");
+    }
+
+    // What VCDXMINFO says of a written file decides whether VCDIMAGER would take it.
+    void mpegmaker_readiness_data() {
+        QTest::addColumn<QByteArray>("log");
+        QTest::addColumn<QString>("reason");
+        const QByteArray info =
+            "<mpeg-info><video-stream><version>%v</version><horizontal-size>"
+            "%w</horizontal-size><vertical-size>%h</vertical-size>";
+        const auto row = [&info](const char* name, const char* v, const char* w, const char* h,
+                                 const char* reason) {
+            QTest::newRow(name) << QByteArray(info).replace("%v", v).replace("%w", w).replace("%h",
+                                                                                              h)
+                                << QString(reason);
+        };
+        row("PAL VCD", "1", "352", "288", "");
+        row("MPEG-2", "2", "352", "240", "a VCD takes MPEG-1 video, this is MPEG-2.");
+        row("a picture of its own", "1", "320", "240",
+            "a VCD takes pictures of 352x288 or 352x240, this one is 320x240.");
+        QTest::newRow("no report") << QByteArray("**ERROR: x") << "VCDXMINFO could not read it.";
+    }
+
+    void mpegmaker_readiness() {
+        QFETCH(QByteArray, log);
+        QTEST(NotReadyReason(ReadMpegInfo(log), MakerTarget::Vcd), "reason");
     }
 
     // Two clips, 4:3 at 25 and 16:9 at 29.97 frames a second, made into one disc's files.
