@@ -1,8 +1,9 @@
 #include "tools/adapters/authoring/tool_capture.h"
 
+#include "tools/adapters/common/adapter_support.h"
+
 #include <signal.h>
 #include <sys/mman.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
@@ -18,22 +19,6 @@ namespace {
 // of the adapter. The adapter reads what is new this often, so progress still shows live.
 constexpr long kRefreshNs = 50L * 1000 * 1000;
 constexpr std::size_t kReadSize = 65536;
-
-[[noreturn]] void RunInChild(const std::string& program, const std::vector<std::string>& args,
-                             int output, const sigset_t& mask, pid_t adapter) {
-    sigprocmask(SIG_SETMASK, &mask, nullptr);
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != adapter)
-        _exit(127);  // the adapter is already gone
-    dup2(output, STDOUT_FILENO);
-    std::vector<char*> argv{const_cast<char*>(program.c_str())};
-    for (const std::string& arg : args)
-        argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(program.c_str(), argv.data());
-    std::fprintf(stderr, "cannot start %s: %s\n", program.c_str(), std::strerror(errno));
-    _exit(127);
-}
 
 ToolEnd EndOf(int status) {
     ToolEnd end;
@@ -117,10 +102,12 @@ ToolEnd RunCaptured(const std::string& program, const std::vector<std::string>& 
     sigaddset(&childEnded, SIGCHLD);
     sigprocmask(SIG_BLOCK, &childEnded, &before);
     std::fflush(nullptr);
-    const pid_t adapter = getpid();
+    const pid_t adapterPid = getpid();
     const pid_t child = fork();
-    if (child == 0)
-        RunInChild(program, args, output, before, adapter);
+    if (child == 0) {
+        sigprocmask(SIG_SETMASK, &before, nullptr);
+        adapter::ExecToolChild(program, args, output, STDOUT_FILENO, adapterPid);
+    }
     const ToolEnd end = child < 0 ? ToolEnd{} : Relay(output, child, sink);
     close(output);
     sigprocmask(SIG_SETMASK, &before, nullptr);

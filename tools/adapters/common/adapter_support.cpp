@@ -1,8 +1,10 @@
 #include "tools/adapters/common/adapter_support.h"
 
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -39,6 +41,21 @@ int RunTool(const std::string& program, const std::vector<std::string>& args) {
     if (WIFSIGNALED(status))
         return 128 + WTERMSIG(status);
     return WEXITSTATUS(status);
+}
+
+void ExecToolChild(const std::string& program, const std::vector<std::string>& args, int fd,
+                   int target, int adapter) {
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (getppid() != adapter)
+        _exit(127);  // the adapter is already gone
+    dup2(fd, target);
+    std::vector<char*> argv{const_cast<char*>(program.c_str())};
+    for (const std::string& arg : args)
+        argv.push_back(const_cast<char*>(arg.c_str()));
+    argv.push_back(nullptr);
+    execv(program.c_str(), argv.data());
+    std::fprintf(stderr, "cannot start %s: %s\n", program.c_str(), std::strerror(errno));
+    _exit(127);
 }
 
 void Fail(const std::string& adapterName, const std::string& message) {

@@ -15,6 +15,12 @@ std::string RealToolPath(const std::string& name);
 // (after a message on standard error) if it could not be started.
 int RunTool(const std::string& program, const std::vector<std::string>& args);
 
+// In a child the adapter `adapter` has just forked: the child ends with the adapter, `fd`
+// becomes its `target` (standard output or error), and `program` runs with `args`. A
+// program that cannot start is said on standard error; the child exits with 127.
+[[noreturn]] void ExecToolChild(const std::string& program, const std::vector<std::string>& args,
+                                int fd, int target, int adapter);
+
 // Prints "<adapter>: <message>" on standard error and exits with status 1.
 [[noreturn]] void Fail(const std::string& adapterName, const std::string& message);
 

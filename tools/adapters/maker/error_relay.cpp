@@ -1,6 +1,7 @@
 #include "tools/adapters/maker/error_relay.h"
 
-#include <sys/prctl.h>
+#include "tools/adapters/common/adapter_support.h"
+
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
@@ -44,21 +45,6 @@ void TakeMessages(std::string& pending, std::string* lastLine) {
     pending.erase(0, start);
 }
 
-[[noreturn]] void RunInChild(const std::string& program, const std::vector<std::string>& args,
-                             int errors, pid_t adapter) {
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != adapter)
-        _exit(127);
-    dup2(errors, STDERR_FILENO);
-    std::vector<char*> argv{const_cast<char*>(program.c_str())};
-    for (const std::string& arg : args)
-        argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(program.c_str(), argv.data());
-    std::fprintf(stderr, "cannot start %s: %s\n", program.c_str(), std::strerror(errno));
-    _exit(127);
-}
-
 }  // namespace
 
 int RunRelayingErrors(const std::string& program, const std::vector<std::string>& args,
@@ -67,11 +53,11 @@ int RunRelayingErrors(const std::string& program, const std::vector<std::string>
     if (pipe(pipeEnds) != 0)
         return -1;
     std::fflush(nullptr);
-    const pid_t adapter = getpid();
+    const pid_t adapterPid = getpid();
     const pid_t child = fork();
     if (child == 0) {
         close(pipeEnds[0]);
-        RunInChild(program, args, pipeEnds[1], adapter);
+        adapter::ExecToolChild(program, args, pipeEnds[1], STDERR_FILENO, adapterPid);
     }
     close(pipeEnds[1]);
     if (child < 0) {
