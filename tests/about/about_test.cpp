@@ -44,10 +44,9 @@ private slots:
         QFETCH(int, key);
         QTemporaryDir app;
         QVERIFY(test::WriteBytes(app.filePath("author.txt"), "author\r\n"));
-        fakes_.desktop.urls.clear();
-        fakes_.boxes.shown.clear();
-        fakes_.desktop.viewerFound = !QByteArray(QTest::currentDataTag()).contains("no browser");
-        frmAbout about(fakes_.services, app.path());
+        test::FakeServices fakes;
+        fakes.desktop.viewerFound = !QByteArray(QTest::currentDataTag()).contains("no browser");
+        frmAbout about(fakes.services, app.path());
         QVERIFY(QFile::remove(app.filePath("author.txt")));  // the texts are read as it opens
         about.show();
         QVERIFY(QTest::qWaitForWindowActive(&about));
@@ -56,8 +55,8 @@ private slots:
         about.findChild<QWidget*>(focus)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
         const QString shown = about.isVisible() ? about.Text1->toPlainText() : "closed";
-        QStringList links = fakes_.desktop.urls;
-        for (const MessageBoxRequest& box : fakes_.boxes.shown)
+        QStringList links = fakes.desktop.urls;
+        for (const MessageBoxRequest& box : fakes.boxes.shown)
             links << box.text;
         QTEST(links.isEmpty() ? shown : links.join('|'), "outcome");
     }
@@ -70,14 +69,14 @@ private slots:
         };
         row("cdxa2mpeg", "About CDXA2MPEG|usage: cdxa2mpg infile [outfile]", 0);
         row("vcdxbuild", "About VCDXBUILD|vcdxbuild (GNU VCDImager) 0.7.12", Qt::Key_Escape);
-        row("vcdxminfo", "About VCDXMINFO|vcdxminfo (GNU VCDImager) 0.7.12", 0);
         row("vcdxrip", "About VCDXRIP|vcdxrip (GNU VCDImager) 0.7.12", Qt::Key_Return);
     }
 
     void toolBox() {
         const QString key = QTest::currentDataTag();
         QFETCH(int, closeBy);
-        frm_mainmenu menu(fakes_.services, TORVANE_APP_DIR);
+        test::FakeServices fakes;
+        frm_mainmenu menu(fakes.services, TORVANE_APP_DIR);
         QPointer<QWidget> dialog = menu.openTool(key);
         dialog->findChild<QPushButton*>("cmd_about")->click();
         QPointer<QWidget> box = test::ComponentDialog("about_component");
@@ -90,9 +89,6 @@ private slots:
         QVERIFY(!dialog || dialog->isEnabled());
         delete dialog;
     }
-
-private:
-    test::FakeServices fakes_;
 };
 
 QTEST_MAIN(AboutTest)

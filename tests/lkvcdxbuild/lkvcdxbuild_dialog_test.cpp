@@ -1,5 +1,5 @@
-// The lkVCDxBUILD dialog: the fork's command line, and a real Nero image ripped back by
-// lkvcdxrip.exe.
+// The lkVCDxBUILD dialog: the fork's command line, and real jobs of each image type, ripped
+// back by lkvcdxrip.exe.
 
 #include "author/frm_lkvcdxbuild.h"
 #include "tests/support/job_driver.h"
@@ -40,19 +40,41 @@ private slots:
         QCOMPARE(plan.scriptLines[6], "echo Output imagetype: " + switches.section(' ', 0, 0));
     }
 
-    void nrgRipsBack() {
+    // Debian's vcdxrip, behind lkvcdxrip.exe, rips nothing from a TOC image of several files.
+    void realJob_data() {
+        QTest::addColumn<QString>("clicks");
+        QTest::addColumn<QString>("made");     // a file of the image
+        QTest::addColumn<QStringList>("rip");  // lkvcdxrip.exe's source switches, if it can rip it
+        // Under NRG the sector box goes grey with its tick, which counts for nothing.
+        QTest::newRow("NRG") << "chk_s2336 chk_subindex opt_nrg"
+                             << "-d é.nrg" << QStringList{"/n", "-d é.nrg"};
+        QTest::newRow("CUE/BIN, 2336-byte sectors")
+            << "chk_s2336 opt_cuebin"
+            << "-d é.cue" << QStringList{"/s", "/b", "-d é.bin"};
+        QTest::newRow("TOC") << "opt_toc"
+                             << "-d é.toc" << QStringList();
+    }
+
+    void realJob() {
+        QFETCH(QString, clicks);
+        QFETCH(QString, made);
+        QFETCH(QStringList, rip);
         DialogFixture<frm_lkvcdxbuild> f("lkvcdxbuild", TORVANE_APP_DIR);
         const QString folder = FreshFolder(f.work.path(), "proj & 'co' ü");
         QVERIFY(QFile::copy(Media("vcd.xml"), folder + "/vcd.xml") &&
                 QFile::copy(Media("clip-vcd.mpg"), folder + "/clip-vcd.mpg"));
-        // Under NRG the sector box goes grey with its tick, which counts for nothing.
-        f.prepare(nullptr, "chk_s2336 chk_subindex opt_nrg", folder + "/vcd.xml", folder + "/-d é");
+        f.prepare(nullptr, clicks, folder + "/vcd.xml", folder + "/-d é");
         QVERIFY(f.go(vbNo));
-        QVERIFY(!f.dialog.chk_s2336->isEnabled() && !f.dialog.chk_subindex->isEnabled());
+        QVERIFY(QFile::exists(folder + "/" + made));
+        QVERIFY(f.dialog.chk_s2336->isEnabled() != clicks.endsWith("opt_nrg") &&
+                f.dialog.chk_subindex->isEnabled() == clicks.endsWith("opt_cuebin"));
         f.dialog.findChild<QAbstractButton*>("opt_cuebin")->click();
-        QVERIFY(f.dialog.chk_s2336->isEnabled() && f.dialog.chk_s2336->isChecked());
+        QVERIFY(f.dialog.chk_s2336->isEnabled() &&
+                f.dialog.chk_s2336->isChecked() == clicks.contains("chk_s2336"));
+        if (rip.isEmpty())
+            return;
         QCOMPARE(RunProgram(TORVANE_APP_DIR "/lkVCDImager/lkvcdxrip.exe",
-                            {"/o", folder, "/n", "-d é.nrg"}, folder)
+                            QStringList{"/o", folder} + rip, folder)
                      .exitCode,
                  0);
         QVERIFY(ReadBytes(folder + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")));

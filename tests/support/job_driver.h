@@ -74,14 +74,6 @@ inline bool WaitForIdle(JobFrame& frame) {
     return QTest::qWaitFor([&frame] { return frame.job_running == 0; }, kJobStepTimeoutMs);
 }
 
-inline QStringList EnabledControls(const QWidget& form, const QStringList& names) {
-    QStringList enabled;
-    for (const QString& name : names)
-        if (const auto* control = form.findChild<QWidget*>(name); control && control->isEnabled())
-            enabled << name;
-    return enabled;
-}
-
 // A table of Go refusals: the names picked for input and output (a relative name lies in
 // the test's folder) and the start of the one box Go shows.
 inline void AddRefusalColumns() {

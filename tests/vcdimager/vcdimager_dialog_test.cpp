@@ -2,7 +2,6 @@
 // rips back into the clips.
 
 #include "author/frm_vcdimager.h"
-#include "core/mod_general.h"
 #include "core/vcdimager_builder.h"
 #include "tests/support/job_driver.h"
 
@@ -59,68 +58,70 @@ vcdimager.exe  --update-scan-offsets -v  --type=hqvcd -l VIDEOCD --info-album-id
         QCOMPARE(BuildVcdimagerJob(in).scriptLines, Script(kBanner, script, true));
     }
 
-    void report_data() {
-        QTest::addColumn<QByteArray>("log");
-        QTest::addColumn<QString>("sizeLine");  // empty: the failure box
-        QTest::newRow("the tool's figures")
-            << QByteArray("a\r\nfinished ok, image created with 333 sectors [74:03:40]\r\n")
-            << "The image size is: 74 minutes, 3 seconds, 40 sectors.\r\r" + DiscFitAdvice(74);
-        QTest::newRow("the first bracket decides")
-            << QByteArray("a\r\nfinished ok [01:02:03] [74:03:40]\r\n")
-            << "The image size is: 1 minutes, 2 seconds, 3 sectors.";
-        QTest::newRow("finished ok further along")
-            << QByteArray("a\r\nx finished ok [00:01:02]\r\n") << QString();
-        QTest::newRow("a line behind it")
-            << QByteArray("finished ok [00:01:02]\r\nmore\r\n") << QString();
+    // The size is read at the first bracket of the log's last line (the rest of the report
+    // is that of the VCDXBUILD dialog).
+    void reportTakesTheFirstBracket() {
+        const ListToolReport outcome =
+            BuildVcdimagerReport(QByteArray("a\r\nfinished ok [01:02:03] [74:03:40]\r\n"));
+        QVERIFY(outcome.succeeded);
+        QVERIFY2(
+            outcome.text.contains("!\r\rThe image size is: 1 minutes, 2 seconds, 3 sectors.\r\r"),
+            qPrintable(outcome.text));
     }
 
-    void report() {
-        QFETCH(QByteArray, log);
-        QFETCH(QString, sizeLine);
-        const ListToolReport outcome = BuildVcdimagerReport(log);
-        QCOMPARE(outcome.succeeded, !sizeLine.isEmpty());
-        QVERIFY2(sizeLine.isEmpty()
-                     ? outcome.text.startsWith("There appears to have been an error!")
-                     : outcome.text.contains("!\r\r" + sizeLine),
-                 qPrintable(outcome.text));
+    // The real vcdimager through the dialog on clips copied into a folder whose name holds
+    // shell characters and non-ASCII letters: the size it reports is its image's, and the
+    // image rips back into the clips.
+    void realJob_data() {
+        QTest::addColumn<QString>("clicks");
+        QTest::addColumn<QStringList>("clips");  // of the shared media, in list order
+        QTest::addColumn<int>("sectorSize");     // 0: no image, the failure box
+        QTest::newRow("VCD 2.0, two clips")
+            << "" << QStringList{"clip-vcd.mpg", "clip-vcd2.mpg"} << 2352;
+        QTest::newRow("SVCD, 2336-byte sectors, the clip left as it is")
+            << "opt_svcd chk_s2336 chk_update" << QStringList{"clip-svcd.mpg"} << 2336;
+        QTest::newRow("a file that is no MPEG") << "" << QStringList{"random.bin"} << 0;
     }
 
-    void realJobRipsBack() {
+    void realJob() {
+        QFETCH(QString, clicks);
+        QFETCH(QStringList, clips);
+        QFETCH(int, sectorSize);
         DialogFixture<frm_vcdimager> f("vcdimager");
         f.app.linkAppTools({"vcdimager.exe", "vcdxrip.exe"});
         const QString folder = FreshFolder(f.work.path(), "img & 'co' été");
-        f.dialog.file_count = 2;
-        f.dialog.file_list =
-            test::Quoted(Media("clip-vcd.mpg")) + "\r\n" + test::Quoted(Media("clip-vcd2.mpg"));
-        f.prepare(nullptr, "", QString(), folder + "/-film ü.bin");
-        QVERIFY(f.go(vbYes));
-
-        const QString log = folder + "/log.txt";
+        QByteArrayList listed;
+        for (const QString& clip : clips) {
+            QVERIFY(QFile::copy(Media(clip), folder + "/<b> &amp; ü " + clip));
+            listed << test::Quoted(folder + "/<b> &amp; ü " + clip);
+        }
+        f.dialog.file_count = qint16(clips.size());
+        f.dialog.file_list = listed.join("\r\n");
+        f.prepare(nullptr, clicks, QString(), folder + "/-film ü.bin");
+        QVERIFY(f.go(sectorSize ? vbYes : vbOK));
+        const QString box = f.fakes.boxes.shown.at(0).text, log = folder + "/log.txt";
+        if (!sectorSize) {
+            QVERIFY2(box.startsWith("There appears to have been an error!"), qPrintable(box));
+            return;
+        }
         const QStringList size =
-            QRegularExpression(R"(finished ok[^[]*\[0?(\d+):0?(\d+):0?(\d+)\])")
+            QRegularExpression(
+                R"(finished ok, image created with (\d+) sectors \[0?(\d+):0?(\d+):0?(\d+)\])")
                 .match(QString::fromUtf8(ReadBytes(log)))
                 .capturedTexts();
-        QCOMPARE(size.size(), 4);
-        QVERIFY(f.fakes.boxes.shown.at(0).text.contains(
-            QString("The image size is: %1 minutes, %2 seconds, %3 sectors.")
-                .arg(size[1], size[2], size[3])));
+        QCOMPARE(size.size(), 5);
+        QVERIFY2(box.contains(QString("The image size is: %1 minutes, %2 seconds, %3 sectors.")
+                                  .arg(size[2], size[3], size[4])),
+                 qPrintable(box));
+        QCOMPARE(QFileInfo(folder + "/-film ü.bin").size(), size[1].toLongLong() * sectorSize);
         QCOMPARE(f.fakes.desktop.viewed, QStringList{log});
         QVERIFY(QFile::exists(folder + "/-film ü.cue"));
-        QCOMPARE(RunProgram(f.app.toolFolder() + "vcdxrip.exe", {"--bin-file=-film ü.bin"}, folder)
-                     .exitCode,
-                 0);
-        QVERIFY(ReadBytes(folder + "/avseq01.mpg") == ReadBytes(Media("clip-vcd.mpg")));
-        QVERIFY(ReadBytes(folder + "/avseq02.mpg") == ReadBytes(Media("clip-vcd2.mpg")));
-    }
-
-    void aFileThatIsNoMpegFailsTheJob() {
-        DialogFixture<frm_vcdimager> f("vcdimager");
-        f.app.linkAppTools({"vcdimager.exe"});
-        f.dialog.file_count = 1;
-        f.dialog.file_list = test::Quoted(Media("random.bin"));
-        f.prepare(nullptr, "", QString(), f.work.filePath("d.bin"));
-        QVERIFY(f.go(vbOK));
-        QVERIFY(f.fakes.boxes.shown.at(0).text.startsWith("There appears to have been an error!"));
+        const QStringList rip{"--bin-file=-film ü.bin",
+                              sectorSize == 2336 ? "--sector-2336" : "-v"};
+        QCOMPARE(RunProgram(f.app.toolFolder() + "vcdxrip.exe", rip, folder).exitCode, 0);
+        for (int i = 0; i < clips.size(); ++i)
+            QVERIFY(ReadBytes(folder + QString("/avseq%1.mpg").arg(i + 1, 2, 10, QChar('0'))) ==
+                    ReadBytes(Media(clips[i])));
     }
 };
 

@@ -1,4 +1,5 @@
-// The VCDXMINFO dialog: its script with either separator, checks at Go, interlock and report.
+// The VCDXMINFO dialog: its script with either separator, checks at Go, interlock and report;
+// its jobs, one of them the real vcdxminfo on a clip of the shared media.
 
 #include "core/vcdxminfo_builder.h"
 #include "inspect/frm_vcdxminfo.h"
@@ -70,6 +71,8 @@ echo Option switches:   -a --relaxed-aps -v -p
         QTest::newRow("the tool fails: the older report is not offered as its own")
             << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << false << vbOK
             << "Finished!\r\rNo XML report was written; this file is as it was:\r";
+        QTest::newRow("real vcdxminfo on a clip")
+            << "chk_apsrelaxed" << QStringList{"-i", "-a", "--relaxed-aps"} << true << vbYes << "";
     }
 
     void job() {
@@ -78,16 +81,24 @@ echo Option switches:   -a --relaxed-aps -v -p
         QFETCH(bool, writes);
         QFETCH(int, answer);
         QFETCH(QString, box);
-        Fixture f("vcdxminfo");
-        const QString input = f.work.filePath("-c & o.mpg"), output = f.work.filePath("r; $x.xml");
-        QVERIFY(WriteBytes(output, "an older report"));
-        f.prepare("vcdxminfo.exe", clicks, input, output, {}, writes ? kWritesReport : "");
+        const bool real = QByteArray(QTest::currentDataTag()).startsWith("real");
+        Fixture f("vcdxminfo", real ? TORVANE_APP_DIR : QString());
+        const QString input = FreshFolder(f.work.path(), "in & co; $HOME") + "/-Ünï & o.mpg";
+        const QString output = FreshFolder(f.work.path(), "out $x; <y>") + "/-r été.xml";
+        QVERIFY(WriteBytes(output, "an older report") &&
+                (!real || QFile::copy(Media("clip-vcd.mpg"), input)));
+        f.prepare(real ? nullptr : "vcdxminfo.exe", clicks, input, output, {},
+                  writes ? kWritesReport : "");
         const bool aps = switches.contains("-a");
         QCOMPARE(f.dialog.chk_apsrelaxed->isEnabled(), aps);
         QVERIFY(f.go(answer));
 
-        QCOMPARE(f.arguments(),
-                 (switches + QStringList{"-v", "-p", "--output-file=" + output, input}));
+        if (real)
+            QVERIFY(ReadBytes(output).startsWith("<mpeg-info src=") &&
+                    ReadBytes(output).contains("<horizontal-size>352</horizontal-size>"));
+        else
+            QCOMPARE(f.arguments(),
+                     (switches + QStringList{"-v", "-p", "--output-file=" + output, input}));
         QCOMPARE(f.fakes.boxes.shown.size(), 1u);
         QCOMPARE(f.fakes.boxes.shown[0].text,
                  box.isEmpty()

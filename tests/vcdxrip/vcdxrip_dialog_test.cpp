@@ -6,8 +6,6 @@
 using namespace torvane;
 using namespace torvane::test;
 
-const QStringList kThree = {"chk_nofiles", "chk_nosequences", "chk_nosegments"};
-
 const char* const kBanner =
     "echo VCDXRIP Tool - Batch File (quelmora productions)\n"
     "echo ================================================\n";
@@ -87,8 +85,12 @@ echo Option switches:  --sector-2336 --norip -v
                       xml = ripDir + "d.xml";
         const QString input = f.work.filePath(success ? "-movie one.bin" : "movie.nrg");
         f.prepare("vcdxrip.exe", clicks, input, xml, log);
-        const QStringList enabled = threeFree ? kThree : QStringList();
-        QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
+        const auto enabled = [&f] {
+            return QList<bool>{f.dialog.chk_nofiles->isEnabled(),
+                               f.dialog.chk_nosequences->isEnabled(),
+                               f.dialog.chk_nosegments->isEnabled()};
+        };
+        QCOMPARE(enabled(), QList<bool>(3, threeFree));
         QVERIFY(f.go(vbYes));
 
         QCOMPARE(f.fakes.boxes.shown.size(), 1u);
@@ -102,7 +104,7 @@ echo Option switches:  --sector-2336 --norip -v
         QCOMPARE(f.arguments(),
                  (switches + QStringList{"--output-file=" + xml, inputSwitch + input}));
         // Back to Idle with the interlock applied anew, the ticks kept.
-        QCOMPARE(EnabledControls(f.dialog, kThree), enabled);
+        QCOMPARE(enabled(), QList<bool>(3, threeFree));
         QVERIFY(f.dialog.chk_nosegments->isChecked());
     }
 };
