@@ -106,7 +106,7 @@ private slots:
             << "vcdimager"
             << "echo '" + finished + "'\necho '" + finished + "'\nkill -SEGV $$" << QStringList()
             << 1 << QByteArray("vcdimager.exe: vcdimager was ended by signal 11");
-        QTest::newRow("cdxa2mpeg writes, then crashes: the output is left as it was")
+        QTest::newRow("cdxa2mpeg writes, then crashes, child signals ignored: the output as it was")
             << "cdxa2mpeg" << QByteArray("echo partial > \"$2\"; kill -SEGV $$") << QStringList()
             << 1
             << QFile::encodeName("cdxa2mpeg.exe: " + kTools +

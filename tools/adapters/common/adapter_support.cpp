@@ -22,6 +22,8 @@ int RunTool(const std::string& program, const std::vector<std::string>& args) {
         argv.push_back(const_cast<char*>(arg.c_str()));
     argv.push_back(nullptr);
 
+    // An ignored SIGCHLD, which a parent may hand down, would reap the tool unseen.
+    signal(SIGCHLD, SIG_DFL);
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child < 0) {

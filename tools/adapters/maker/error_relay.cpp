@@ -52,6 +52,8 @@ int RunRelayingErrors(const std::string& program, const std::vector<std::string>
     int pipeEnds[2];
     if (pipe(pipeEnds) != 0)
         return -1;
+    // An ignored SIGCHLD, which a parent may hand down, would reap the tool unseen.
+    signal(SIGCHLD, SIG_DFL);
     std::fflush(nullptr);
     const pid_t adapterPid = getpid();
     const pid_t child = fork();
