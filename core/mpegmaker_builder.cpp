@@ -142,8 +142,7 @@ QStringList MakerCarriedPaths(const MakerInputs& in) {
 }
 
 QString OverwriteQuestion(const QStringList& existing) {
-    return QStringLiteral("These MPEG files exist already:") + CR + CR + existing.join(CR) + CR +
-           CR +
+    return QStringLiteral("These files exist already:") + CR + CR + existing.join(CR) + CR + CR +
            QStringLiteral(
                "Do you want to overwrite them? A file that cannot be converted\r"
                "leaves its older MPEG file as it was.");

@@ -158,12 +158,14 @@ MakerInputs frm_mpegmaker::inputs() const {
     return in;
 }
 
-// Asks before MPEG files that stand in the output folder are written over.
+// Asks before MPEG files, or the logs beside them, that stand in the output folder are
+// written over.
 bool frm_mpegmaker::mayOverwrite(const MakerInputs& in) {
     QStringList existing;
     for (int index = 0; index < in.inputs.size(); ++index)
-        if (QFileInfo::exists(MadeFilePath(in, index)))
-            existing << ShownPath(MadeFilePath(in, index));
+        for (const QString& path : {MadeFilePath(in, index), MadeLogPath(in, index)})
+            if (QFileInfo::exists(path))
+                existing << ShownPath(path);
     return existing.isEmpty() || ConfirmationBox(services_.boxes, QStringLiteral("Question"),
                                                  OverwriteQuestion(existing)) == vbYes;
 }

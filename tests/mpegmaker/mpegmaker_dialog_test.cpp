@@ -192,7 +192,7 @@ private slots:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("box");  // the start of the first box
         QTest::newRow("no video, an older output") << QStringList{"old.mp4"} << ""
-                                                   << "These MPEG files exist already:";
+                                                   << "These files exist already:";
         QTest::newRow("missing output folder") << QStringList{"a.mp4"} << "gone"
                                                << "The folder does not exist";
         QTest::newRow("output over its input") << QStringList{"old.mpg"} << ""
@@ -210,14 +210,16 @@ private slots:
             name = f.work.filePath(name);
             QVERIFY(QFile::exists(name) || WriteBytes(name, "no video"));
         }
-        QVERIFY(WriteBytes(f.work.filePath("old.mpg"), "an older file"));
+        QVERIFY(WriteBytes(f.work.filePath("old.mpg"), "an older file") &&
+                WriteBytes(f.work.filePath("old.log"), "a log of the user's"));
         Pick(f, inputs, f.work.filePath(folder));
         f.fakes.boxes.answers = {vbYes};
         f.dialog.cmd_rip->click();
         QFETCH(QString, box);
         QVERIFY2(f.fakes.boxes.shown.at(0).text.startsWith(box),
                  qPrintable(f.fakes.boxes.shown.at(0).text));
-        const bool job = box.startsWith("These");  // Yes, the older file may go: the job fails
+        const bool job = box.startsWith("These");  // Yes, the older files may go: the job fails
+        QVERIFY(!job || f.fakes.boxes.shown.at(0).text.contains("old.log"));
         if (job) {
             QVERIFY(WaitForPause(f.dialog.frame));
             PressKeyInConsole();
