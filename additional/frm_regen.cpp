@@ -4,7 +4,7 @@
 #include "core/mod_general.h"
 #include "forms/form_support.h"
 #include "forms/tool_form.h"
-#include "job/job_start.h"
+#include "job/job_runner.h"
 
 #include <QCloseEvent>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "job/job_frame.h"
 
 #include "core/services.h"
-#include "job/job_start.h"
+#include "job/job_runner.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,15 +1,14 @@
 #pragma once
-// The one way a job runs, for every tool: a stage at a time, on a timer its owner names, so
-// that each owner keeps its own timers and their timing. A console stage has its script
-// written whole, its console started at the timer's first tick (shortly after the start) and
-// its screen polled four times a second for the end marker. A hidden stage runs its script
-// at once, with no console and no window, and is polled for a sign of its end of its own.
-// At the end the timer stops, the console or the hidden script goes with every program it
-// started, and the stage's `ended` runs; it may start the next stage.
+// The one way a job starts and runs, for every tool: a stage at a time, on a timer its owner names,
+// so that each owner keeps its own timers and their timing. A console stage has its script written
+// whole, its console started at the timer's first tick (shortly after the start) and its screen
+// polled four times a second for the end marker. A hidden stage runs its script at once, with no
+// console and no window, and is polled for a sign of its end of its own. At the end the timer
+// stops, the console or the hidden script goes with every program it started, and the stage's
+// `ended` runs; it may start the next stage.
 
 #include "core/job_plan.h"
 #include "job/cconsole.h"
-#include "job/job_start.h"
 #include "job/job_timer.h"
 
 #include <QObject>
@@ -20,6 +19,11 @@
 namespace torvane {
 
 class MessageBoxes;
+
+class HiddenScript;
+
+// The unload guard's question while a job runs; true when the user answers Yes.
+bool ConfirmQuitWhileRunning(MessageBoxes& boxes);
 
 class JobRunner : public QObject {
     Q_OBJECT
@@ -34,8 +38,8 @@ public:
     ~JobRunner() override;
 
     // A console stage of `plan` on `timer`: the script written, the timer armed (its Tag
-    // "0"), the console started at its first tick (its Tag "1", for whoever reads it). A script that cannot be written is
-    // `failed` at once, arms nothing and returns false.
+    // "0"), the console started at its first tick (its Tag "1", for whoever reads it). A script
+    // that cannot be written is `failed` at once, arms nothing and returns false.
     bool Run(JobTimer& timer, const JobPlan& plan, Hooks hooks);
     // A hidden stage on `timer`: `scriptPath` runs in `workDir` at once, and each poll asks
     // `endSeen`. A script that cannot start leaves the polls waiting; it returns false.

@@ -6,7 +6,7 @@
 #include "core/scan_list.h"
 #include "forms/form_support.h"
 #include "forms/tool_form.h"
-#include "job/job_start.h"
+#include "job/job_runner.h"
 #include "rip/scan_forms.h"
 
 #include <QCheckBox>
