@@ -1,5 +1,6 @@
 #include "forms/tool_form.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -66,6 +67,9 @@ QRadioButton* ToolForm::optionButton(const char* name, const char* caption, cons
 }
 
 void ToolForm::optionGroup(std::initializer_list<QRadioButton*> options) {
+    auto* group = new QButtonGroup(&form_);
+    for (QRadioButton* option : options)
+        group->addButton(option);
     // Only the selected button is a tab stop; the arrow keys reach the others all the same.
     const auto follow = [group = QList<QRadioButton*>(options)] {
         for (QRadioButton* option : group)

@@ -32,7 +32,8 @@ public:
     QPushButton* button(const char* name, const char* caption, const char* tip);
     QCheckBox* checkBox(const char* name, const char* caption, const char* tip);
     QRadioButton* optionButton(const char* name, const char* caption, const char* tip);
-    // One group of option buttons: Tab enters it at the selected one, the arrows move within.
+    // One group of option buttons, exclusive within itself whatever else the form holds: Tab
+    // enters it at the selected one, the arrows move within.
     void optionGroup(std::initializer_list<QRadioButton*> options);
     // Widens `box` to show `characters` of the widest capitals whole.
     static void fitCharacters(QLineEdit& box, int characters);

@@ -7,7 +7,6 @@
 #include "forms/mpeg_load_dialog.h"
 #include "forms/tool_form.h"
 
-#include <QButtonGroup>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -51,8 +50,6 @@ frm_mpegmaker::frm_mpegmaker(const ToolContext& context)
 
 void frm_mpegmaker::buildControls() {
     ToolForm form(*this);
-    auto* targets = new QButtonGroup(this);
-    auto* standards = new QButtonGroup(this);
     lbl_input = form.label(
         "lbl_input", "Load source video files:", "Load the video files to be made into MPEG files");
     Label2 = form.label("Label2", "Number of video files selected:",
@@ -74,17 +71,12 @@ void frm_mpegmaker::buildControls() {
     opt_vcd = form.optionButton("opt_vcd", "VCD", "VCD -- 352x240/288 MPEG-1 video");
     opt_svcd = form.optionButton("opt_svcd", "SVCD", "SVCD -- 480x480/576 MPEG-2 video");
     opt_vcd->setChecked(true);
-    // Two sets of option buttons on one form: each set is a group of its own.
-    for (QRadioButton* target : {opt_vcd, opt_svcd})
-        targets->addButton(target);
     form.optionGroup({opt_vcd, opt_svcd});
     form.addOptionRow({Label3, opt_vcd, opt_svcd});
     Label4 = form.label("Label4", "TV standard:", "Choose the TV standard of the MPEG files");
     opt_pal = form.optionButton("opt_pal", "PAL", "PAL -- 25 frames a second");
     opt_ntsc = form.optionButton("opt_ntsc", "NTSC", "NTSC -- 29.97 frames a second");
     opt_pal->setChecked(true);
-    for (QRadioButton* standard : {opt_pal, opt_ntsc})
-        standards->addButton(standard);
     form.optionGroup({opt_pal, opt_ntsc});
     lbl_standard = form.label("lbl_standard", "", "Why this standard was chosen");
     form.addOptionRow({Label4, opt_pal, opt_ntsc, lbl_standard});
